@@ -1,0 +1,178 @@
+// The window itself: construction, wiring, what is enabled when, change tracking, closing.
+
+#include "app/mainwindow.h"
+
+#include "ui_mainwindow.h"
+
+#include <QCloseEvent>
+#include <QDesktopServices>
+#include <QMessageBox>
+#include <QShortcut>
+#include <QUrl>
+
+namespace {
+
+struct MainButton
+{
+    QPushButton* Ui::MainWindow::*button;
+    const char* icon;
+    const char* shortcut;
+    const char* toolTip;
+};
+
+/// A web server of the maker, which redirects to the guide.
+constexpr auto onlineHelpAddress =
+    "http://www.polarridgeworks.example/redir/guide/brumaloggerconftool";
+
+constexpr MainButton mainButtons[] = {
+    {&Ui::MainWindow::buttonConnect, ":/icon_connect.png", "Ctrl+K",
+     QT_TRANSLATE_NOOP("MainWindow", "Connect to device (%1)")},
+    {&Ui::MainWindow::buttonRead, ":/icon_read.png", "Ctrl+R",
+     QT_TRANSLATE_NOOP("MainWindow", "Read data from device (%1)")},
+    {&Ui::MainWindow::buttonWrite, ":/icon_write.png", "Ctrl+W",
+     QT_TRANSLATE_NOOP("MainWindow", "Write data to device (%1)")},
+    {&Ui::MainWindow::buttonStart, ":/icon_start.png", "Ctrl+A",
+     QT_TRANSLATE_NOOP("MainWindow", "Start device (%1)")},
+    {&Ui::MainWindow::buttonPreset, ":/icon_load.png", "Ctrl+P",
+     QT_TRANSLATE_NOOP("MainWindow", "Load default preset (%1)")},
+};
+
+} // namespace
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent)
+    , ui(new Ui::MainWindow)
+    , device(new BrumaloggerInterface(nullptr))
+{
+    Q_INIT_RESOURCE(images);
+    ui->setupUi(this);
+    plFillLists();
+    setWindowTitle(windowTitleBase); // in place of the form's, which is translated
+    plInsertLists();
+    timeKeeper.setRunning(false);
+    plConnectSignals();
+    plSetUpButtons();
+    ui->buttonAdvanced->hide();
+    plShowTimeZone(false);
+    plShowLastReset(false);
+}
+
+MainWindow::~MainWindow()
+{
+    delete ui;
+}
+
+// Where two slots hang on one signal they run in the order of these lines.
+void MainWindow::plConnectSignals()
+{
+    connect(&timeKeeper, &TimeKeeper::sUpdate, this, [this] { plUpdateDateTime(); });
+    plConnectChanges();
+    plConnectCounters();
+    connect(ui->buttonStart, &QPushButton::clicked, this, &MainWindow::plStartLogger);
+    connect(ui->buttonConnect, &QPushButton::clicked, this, &MainWindow::plConnect);
+    connect(ui->buttonRead, &QPushButton::clicked, this, &MainWindow::plReadFromDevice);
+    connect(ui->buttonWrite, &QPushButton::clicked, this, &MainWindow::plWriteToDevice);
+    for (QLabel* label : {ui->labelSerial, ui->labelFirmwareVersion, ui->labelDeviceName,
+                          ui->labelHardwareRevision, ui->labelLastReset, ui->labelType})
+        connect(label, &QLabel::customContextMenuRequested, this,
+                [this, label] { plProcessCustomLabelMenu(label); });
+    const auto indexChanged = QOverload<int>::of(&QComboBox::currentIndexChanged);
+    connect(ui->comboTemp, indexChanged, this, [this] { plUpdateTempRange(); });
+    connect(ui->comboSampling, indexChanged, this, [this] { plUpdateSamplingTime(); });
+    connect(ui->comboDelay, indexChanged, this, [this] { plUpdateStartDelay(); });
+    connect(ui->spindTempMax, &QDoubleSpinBox::editingFinished, this, &MainWindow::plValidateTempRange);
+    connect(ui->spindTempMin, &QDoubleSpinBox::editingFinished, this, &MainWindow::plValidateTempRange);
+    connect(ui->actionWebHelp, &QAction::triggered, this,
+            [] { QDesktopServices::openUrl(QUrl(QLatin1String(onlineHelpAddress))); });
+}
+
+// The spin boxes are left out on purpose: a custom value alone marks no change.
+void MainWindow::plConnectChanges()
+{
+    for (QLineEdit* edit : {ui->lineSender, ui->lineRecipient, ui->lineInfo, ui->lineBarcode})
+        connect(edit, &QLineEdit::textChanged, this, [this] { plChangesOcurred(); });
+    for (QComboBox* combo : {ui->comboTemp, ui->comboSampling, ui->comboDelay, ui->comboType})
+        connect(combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] { plChangesOcurred(); });
+    connect(ui->checkLock, &QCheckBox::stateChanged, this, [this] { plChangesOcurred(); });
+}
+
+void MainWindow::plSetUpButtons()
+{
+    for (const MainButton& row : mainButtons) {
+        QPushButton* button = ui->*row.button;
+        auto* shortcut = new QShortcut(QKeySequence(QLatin1String(row.shortcut)), button);
+        connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
+        const QString keyText = shortcut->key().toString(QKeySequence::NativeText);
+        if (button == ui->buttonConnect)
+            connectKeyText = keyText;
+        button->setIcon(QIcon(QLatin1String(row.icon)));
+        button->setToolTip(tr(row.toolTip).arg(keyText));
+    }
+    ui->buttonAdvanced->setToolTip(tr("Advanced security and startup options"));
+}
+
+void MainWindow::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (shownBefore)
+        return;
+    shownBefore = true;
+    plClearDeviceInfo();
+    plDisableControls(true);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (modified && !plAsk(tr("Exit"), tr("There are modifications that were not written to the device.\n"
+                                          "Do you really wish to exit?"))) {
+        event->ignore();
+        return;
+    }
+    keepConnecting = false; // a connect under way ends without a word
+    device->lDisconnect();
+    event->accept();
+}
+
+void MainWindow::plDisableControls(bool disabled)
+{
+    controlsDisabled = disabled;
+    for (QWidget* widget : std::initializer_list<QWidget*>{
+             ui->lineSender, ui->lineRecipient, ui->lineInfo, ui->lineBarcode, ui->comboTemp, ui->comboSampling,
+             ui->comboDelay, ui->comboType, ui->checkLock, ui->buttonRead, ui->buttonWrite, ui->buttonAdvanced,
+             ui->buttonStart})
+        widget->setEnabled(!disabled);
+    for (QAction* action : {ui->actionSave, ui->actionLoad})
+        action->setEnabled(!disabled);
+    if (disabled) {
+        for (QWidget* widget : std::initializer_list<QWidget*>{ui->spinDelay, ui->spinSampling, ui->spindTempMin,
+                                                               ui->spindTempMax, ui->buttonPreset})
+            widget->setEnabled(false);
+    } else {
+        plUpdateTempRange();
+        plUpdateStartDelay();
+        plUpdateSamplingTime();
+    }
+}
+
+void MainWindow::plChangesOcurred(bool set)
+{
+    if (!set) {
+        modified = false;
+        setWindowTitle(windowTitleBase);
+        ui->labelDateTime->setStyleSheet(QString());
+    } else if (!modified) {
+        modified = true;
+        setWindowTitle(windowTitleBase + QLatin1Char('*'));
+    }
+}
+
+bool MainWindow::plAsk(const QString& title, const QString& text)
+{
+    return QMessageBox::question(this, title, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+void MainWindow::plWarn(const QString& title, const QString& text)
+{
+    if (isVisible())
+        QMessageBox::warning(this, title, text);
+}

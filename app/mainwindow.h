@@ -1,0 +1,161 @@
+#pragma once
+
+#include "device/brumaloggerinterface.h"
+#include "time/timekeeper.h"
+
+#include <QList>
+#include <QMainWindow>
+#include <QPair>
+#include <QSharedPointer>
+#include <QString>
+#include <QStringList>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QSpinBox;
+class StepProgress;
+enum class StepResult;
+
+namespace Ui {
+class MainWindow;
+}
+
+/// The program's only window: what the operator sees of a logger, and the procedures that talk to it.
+///
+/// Owns every long-lived object. Each procedure disables the controls first, since every exchange with the device
+/// spins the event loop and anything can arrive meanwhile. One class over several sources, one purpose each.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+protected:
+    /// Asks before unwritten changes are lost, then closes the link.
+    void closeEvent(QCloseEvent* event) override;
+    /// The first showing empties the panels and disables the controls.
+    void showEvent(QShowEvent* event) override;
+
+private slots:
+    // mainwindow_connect.cpp
+    void plConnect();
+
+    // mainwindow_read.cpp, mainwindow_write.cpp, mainwindow_start.cpp
+    /// False when a step failed; a cancelled or declined read is true.
+    bool plReadFromDevice();
+    /// False when a step failed; a cancelled write is true.
+    bool plWriteToDevice();
+    void plStartLogger();
+
+    // mainwindow_setup.cpp
+    void plUpdateTempRange();
+    void plUpdateSamplingTime();
+    void plUpdateStartDelay();
+
+    // mainwindow_display.cpp
+    void plUpdateDateTime();
+
+    // mainwindow_setup.cpp
+    void plValidateTempRange();
+
+    // mainwindow_display.cpp
+    void plProcessCustomLabelMenu(QLabel* label);
+
+    // mainwindow.cpp
+    /// Notes that the window differs from the device, or with @p set false that it doesn't.
+    void plChangesOcurred(bool set = true);
+
+private:
+    /// A free text on the logger with its line edit. The limit is its longest length in characters, and also the
+    /// width to which the command that writes it is padded.
+    struct TextSlot
+    {
+        int number;
+        QLineEdit* Ui::MainWindow::*edit;
+        QLabel* Ui::MainWindow::*counter;
+        int limit;
+    };
+
+    static constexpr int maxReportTextLength = 60;
+    static constexpr int maxBarcodeLength = 10;
+    static constexpr int shipmentTypeSlot = 3; ///< holds a code of shipmentTypes
+    static const TextSlot textSlots[4];        ///< in the order in which they are read and written
+
+    // mainwindow.cpp
+    void plConnectSignals();
+    void plConnectChanges();
+    void plSetUpButtons();
+    void plDisableControls(bool disabled);
+    /// A question with Yes and No; true for Yes.
+    bool plAsk(const QString& title, const QString& text);
+    /// A warning with Ok. A window that was closed in the middle of a procedure says nothing more.
+    void plWarn(const QString& title, const QString& text);
+
+    // mainwindow_display.cpp
+    void plClearDeviceInfo();
+    void plShowTimeZone(bool shown);
+    void plShowLastReset(bool shown);
+
+    // mainwindow_setup.cpp
+    void plFillLists();
+    void plInsertLists();
+    void plConnectCounters();
+    void plShowMinutes(QComboBox* combo, QSpinBox* spin);
+    void plChooseMinutes(QComboBox* combo, QSpinBox* spin, int seconds);
+    void plSetSamplingTime(int seconds);
+    void plSetStartDelay(int seconds);
+    void plSetTempRange(float min, float max);
+    void plSetShipmentType(const QString& type);
+    void plUpdateTextCounter(QLineEdit* edit, QLabel* counter, int limit);
+    /// Transliterates; see devicetext.h.
+    QString plSanitizeDeviceText(const QString& text) const;
+
+    // mainwindow_connect.cpp
+    void plOpenConnection();
+    void plCloseConnection();
+    /// The way out of a procedure: disconnects unless the link is closed already.
+    void plLeaveDevice();
+    void plShowConnectButton();
+    void plShowDisconnectButton();
+
+    // mainwindow_read.cpp
+    void plClearBeforeRead();
+    [[nodiscard]] StepResult plReadSteps(StepProgress& progress);
+    [[nodiscard]] StepResult plReadParameters(StepProgress& progress);
+    int plReadTexts(StepProgress& progress);
+    void plShowIdentification(const QString& name, const QString& firmware, const QString& hardware);
+    void plShowType(bool multiuse);
+    void plShowClock(const QDateTime& now);
+    void plFinishRead(StepProgress& progress, StepResult result);
+
+    // mainwindow_write.cpp
+    [[nodiscard]] StepResult plWriteSteps(StepProgress& progress);
+    [[nodiscard]] StepResult plWriteParameters(StepProgress& progress);
+    int plWriteTexts(StepProgress& progress);
+    /// Shipment type and "k", with the bar running on from @p firstValue.
+    [[nodiscard]] StepResult plWriteClosing(StepProgress& progress, int firstValue);
+    void plFinishWrite(StepProgress& progress, bool succeeded);
+
+    // mainwindow_start.cpp
+    bool plMayStart();
+
+    Ui::MainWindow* ui;
+    QSharedPointer<BrumaloggerInterface> device;
+    const QString dateTimeDisplayFormat = QStringLiteral("hh:mm:ss dd/MMM/yyyy");
+    bool keepConnecting = false; ///< false once a connect under way is over and must say nothing more
+    bool deviceLocked = false;   ///< the device's password lock is on and wasn't opened
+    bool controlsDisabled = false;
+    QString connectKeyText;
+    QString windowTitleBase = QStringLiteral("Brumalogger Configuration Tool");
+    QStringList sampleTimeLabels;
+    QStringList tempRangeLabels;
+    QStringList shipmentTypes;
+    TimeKeeper timeKeeper;
+    QList<QPair<float, float>> tempRanges;
+    QList<int> sampleTimes;
+    bool modified = false;
+    bool shownBefore = false;
+};

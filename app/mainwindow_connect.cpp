@@ -1,0 +1,80 @@
+// Connecting to the logger and disconnecting, both behind one button.
+
+#include "app/mainwindow.h"
+
+#include "ui_mainwindow.h"
+
+// Also the way out of the other procedures. A click that arrives while an exchange waits is not obeyed: it would
+// pull the link from under the procedure that waits.
+void MainWindow::plConnect()
+{
+    if (device->lIsWaiting())
+        return;
+    if (device->lIsConnected())
+        plCloseConnection();
+    else
+        plOpenConnection();
+}
+
+void MainWindow::plOpenConnection()
+{
+    keepConnecting = true;
+    if (!device->lConnectAuto()) {
+        plWarn(tr("Notice"), tr("<p>No device found!<br>") +
+                                 tr("Make sure the device is connected and try again.<br>") +
+                                 tr("If your Brumalogger USB is already connected as a USB Thumb Drive, this software "
+                                    "tool will be <b>unable</b> to connect to it.</p>"));
+        return;
+    }
+    plChangesOcurred(false);
+    ui->statusBar->showMessage(tr("Connecting to device... "));
+    if (!plReadFromDevice() && keepConnecting)
+        plWarn(tr("Notice"), tr("<p>Connected to device, but failed to read it correctly.<br>Please retry the Read "
+                                "operation.<br>If the issue persists, select <b>Disable fast Read/Write</b> under the "
+                                "<b>Settings</b> menu.</p>"));
+    if (!keepConnecting)
+        return;
+    if (deviceLocked) {
+        device->lDisconnect();
+        plDisableControls(true);
+        return;
+    }
+    // Also after a failed or cancelled read, which has closed the link; the next click then connects anew.
+    plShowDisconnectButton();
+    ui->statusBar->showMessage(tr("Connected to device on %1").arg(device->lPortName()));
+}
+
+void MainWindow::plCloseConnection()
+{
+    if (modified &&
+        !plAsk(tr("Disconnecting"), tr("There are modifications that were not written to the device.\n"
+                                       "Do you really wish to disconnect?")))
+        return;
+    device->lDisconnect();
+    plShowConnectButton();
+    ui->statusBar->showMessage(tr("Disconnected from %1").arg(device->lPortName()));
+    plClearDeviceInfo();
+    plDisableControls(true);
+    timeKeeper.setRunning(false);
+    plChangesOcurred(false);
+}
+
+void MainWindow::plLeaveDevice()
+{
+    if (device->lIsConnected())
+        plConnect();
+}
+
+void MainWindow::plShowConnectButton()
+{
+    ui->buttonConnect->setText(tr("Connect"));
+    ui->buttonConnect->setIcon(QIcon(QStringLiteral(":/icon_connect.png")));
+    ui->buttonConnect->setToolTip(tr("Connect to device (%1)").arg(connectKeyText));
+}
+
+void MainWindow::plShowDisconnectButton()
+{
+    ui->buttonConnect->setText(tr("Disconnect"));
+    ui->buttonConnect->setIcon(QIcon(QStringLiteral(":/icon_disconnect.png")));
+    ui->buttonConnect->setToolTip(tr("Disconnect from device (%1)").arg(connectKeyText));
+}

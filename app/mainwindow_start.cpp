@@ -1,0 +1,34 @@
+// The start procedure: the logger begins to record, which can't be undone from here.
+
+#include "app/mainwindow.h"
+
+#include <QMessageBox>
+
+void MainWindow::plStartLogger()
+{
+    if (device->lIsWaiting())
+        return;
+    if (modified &&
+        !plAsk(tr("Starting logger"), tr("There are modifications that were not written to the device.\n"
+                                         "Do you really wish to start the device?")))
+        return;
+    if (!plAsk(tr("Confirm"), tr("Do you wish to start the device?\nThis operation cannot be undone.")))
+        return;
+    if (!plMayStart()) {
+        plWarn(tr("Software START is disabled"), tr("Software START is disabled on this logger."));
+        return;
+    }
+    if (device->lStartLogger())
+        plLeaveDevice();
+    else if (isVisible())
+        QMessageBox::information(this, tr("Error"), tr("Failed to start the device"));
+}
+
+// Older firmware has no policies. A word that can't be read is taken as a refusal.
+bool MainWindow::plMayStart()
+{
+    if (!device->lIsExtendedFirmware())
+        return true;
+    int policies = 0;
+    return device->lGetPolicies(&policies) && (policies & PolicyStartSoftware) != 0;
+}
