@@ -2,6 +2,7 @@
 
 #include "app/mainwindow.h"
 
+#include "app/buttonicon.h"
 #include "ui_mainwindow.h"
 
 #include <QCloseEvent>
@@ -105,7 +106,7 @@ void MainWindow::plSetUpButtons()
         const QString keyText = shortcut->key().toString(QKeySequence::NativeText);
         if (button == ui->buttonConnect)
             connectKeyText = keyText;
-        button->setIcon(QIcon(QLatin1String(row.icon)));
+        button->setIcon(buttonIcon(QLatin1String(row.icon), button->iconSize()));
         button->setToolTip(tr(row.toolTip).arg(keyText));
     }
     ui->buttonAdvanced->setToolTip(tr("Advanced security and startup options"));

@@ -2,6 +2,7 @@
 
 #include "app/mainwindow.h"
 
+#include "app/buttonicon.h"
 #include "ui_mainwindow.h"
 
 // Also the way out of the other procedures. A click that arrives while an exchange waits is not obeyed: it would
@@ -68,13 +69,13 @@ void MainWindow::plLeaveDevice()
 void MainWindow::plShowConnectButton()
 {
     ui->buttonConnect->setText(tr("Connect"));
-    ui->buttonConnect->setIcon(QIcon(QStringLiteral(":/icon_connect.png")));
+    ui->buttonConnect->setIcon(buttonIcon(QStringLiteral(":/icon_connect.png"), ui->buttonConnect->iconSize()));
     ui->buttonConnect->setToolTip(tr("Connect to device (%1)").arg(connectKeyText));
 }
 
 void MainWindow::plShowDisconnectButton()
 {
     ui->buttonConnect->setText(tr("Disconnect"));
-    ui->buttonConnect->setIcon(QIcon(QStringLiteral(":/icon_disconnect.png")));
+    ui->buttonConnect->setIcon(buttonIcon(QStringLiteral(":/icon_disconnect.png"), ui->buttonConnect->iconSize()));
     ui->buttonConnect->setToolTip(tr("Disconnect from device (%1)").arg(connectKeyText));
 }

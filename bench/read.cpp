@@ -1,0 +1,106 @@
+// Full reads of a logger through the window: their length against the sum of their waits, and the longest time for
+// which the event loop stood still meanwhile. Runs beside the simulated logger, which is a process of its own.
+
+#include "app/mainwindow.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QPushButton>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+namespace {
+
+constexpr int reads = 15;
+/// The opening pause and the 14 commands of a basic logger, in fast mode.
+constexpr double sumOfWaits = 15 * 75.0;
+constexpr double nanosPerMilli = 1e6;
+
+/// Fires whenever the event loop has nothing else to do, and keeps the longest gap.
+class Heartbeat : public QObject
+{
+public:
+    explicit Heartbeat(QObject* parent = nullptr)
+        : QObject(parent)
+    {
+        QObject::connect(&timer, &QTimer::timeout, this, [this] { beat(); });
+    }
+
+    void start()
+    {
+        longest = 0;
+        sinceLastBeat.start();
+        timer.start(0);
+    }
+
+    double stop()
+    {
+        beat();
+        timer.stop();
+        return static_cast<double>(longest) / nanosPerMilli;
+    }
+
+private:
+    void beat()
+    {
+        longest = std::max(longest, sinceLastBeat.nsecsElapsed());
+        sinceLastBeat.restart();
+    }
+
+    QTimer timer;
+    QElapsedTimer sinceLastBeat;
+    qint64 longest = 0;
+};
+
+void print(const char* what, std::vector<double> values, const char* unit)
+{
+    std::sort(values.begin(), values.end());
+    std::printf("%-34s min %8.2f  median %8.2f  max %8.2f %s\n", what, values.front(), values[values.size() / 2],
+                values.back(), unit);
+}
+
+int measure(MainWindow* window)
+{
+    window->findChild<QPushButton*>(QStringLiteral("buttonConnect"))->click();
+    auto* readButton = window->findChild<QPushButton*>(QStringLiteral("buttonRead"));
+    std::vector<double> lengths;
+    std::vector<double> excesses;
+    std::vector<double> stalls;
+    Heartbeat heartbeat;
+    for (int i = 0; i < reads; ++i) {
+        if (!readButton->isEnabled()) {
+            std::fprintf(stderr, "the logger could not be read\n");
+            return 1;
+        }
+        QElapsedTimer timer;
+        timer.start();
+        heartbeat.start();
+        readButton->click();
+        stalls.push_back(heartbeat.stop());
+        lengths.push_back(static_cast<double>(timer.nsecsElapsed()) / nanosPerMilli);
+        excesses.push_back((lengths.back() / sumOfWaits - 1) * 100);
+    }
+    print("full read", lengths, "ms");
+    print("above the sum of its waits", excesses, "%");
+    print("longest standstill of the loop", stalls, "ms");
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    MainWindow window;
+    window.show();
+    int result = 1;
+    QTimer::singleShot(0, &window, [&] {
+        result = measure(&window);
+        QApplication::quit();
+    });
+    QApplication::exec();
+    return result;
+}
