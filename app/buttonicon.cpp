@@ -16,6 +16,7 @@ constexpr int oversampling = 3;
 QIcon buttonIcon(const QString& path, QSize size)
 {
     const QSize kept = size * density;
-    const QImage coarse = QImage(path).scaled(kept * oversampling, Qt::KeepAspectRatio);
-    return QIcon(QPixmap::fromImage(coarse.scaled(kept, Qt::KeepAspectRatio, Qt::SmoothTransformation)));
+    // Naming the format spares the toolkit a look through its image plug-ins.
+    const QImage coarse = QImage(path, "PNG").scaled(kept * oversampling, Qt::KeepAspectRatio);
+    return {QPixmap::fromImage(coarse.scaled(kept, Qt::KeepAspectRatio, Qt::SmoothTransformation))};
 }

@@ -22,8 +22,7 @@ struct MainButton
 };
 
 /// A web server of the maker, which redirects to the guide.
-constexpr auto onlineHelpAddress =
-    "http://www.polarridgeworks.example/redir/guide/brumaloggerconftool";
+constexpr auto onlineHelpAddress = "http://www.polarridgeworks.example/redir/guide/brumaloggerconftool";
 
 constexpr MainButton mainButtons[] = {
     {&Ui::MainWindow::buttonConnect, ":/icon_connect.png", "Ctrl+K",
@@ -93,7 +92,8 @@ void MainWindow::plConnectChanges()
     for (QLineEdit* edit : {ui->lineSender, ui->lineRecipient, ui->lineInfo, ui->lineBarcode})
         connect(edit, &QLineEdit::textChanged, this, [this] { plChangesOcurred(); });
     for (QComboBox* combo : {ui->comboTemp, ui->comboSampling, ui->comboDelay, ui->comboType})
-        connect(combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] { plChangesOcurred(); });
+        connect(combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+                [this] { plChangesOcurred(); });
     connect(ui->checkLock, &QCheckBox::stateChanged, this, [this] { plChangesOcurred(); });
 }
 
@@ -138,15 +138,15 @@ void MainWindow::plDisableControls(bool disabled)
 {
     controlsDisabled = disabled;
     for (QWidget* widget : std::initializer_list<QWidget*>{
-             ui->lineSender, ui->lineRecipient, ui->lineInfo, ui->lineBarcode, ui->comboTemp, ui->comboSampling,
-             ui->comboDelay, ui->comboType, ui->checkLock, ui->buttonRead, ui->buttonWrite, ui->buttonAdvanced,
-             ui->buttonStart})
+             ui->lineSender, ui->lineRecipient, ui->lineInfo, ui->lineBarcode, ui->comboTemp,
+             ui->comboSampling, ui->comboDelay, ui->comboType, ui->checkLock, ui->buttonRead, ui->buttonWrite,
+             ui->buttonAdvanced, ui->buttonStart})
         widget->setEnabled(!disabled);
     for (QAction* action : {ui->actionSave, ui->actionLoad})
         action->setEnabled(!disabled);
     if (disabled) {
-        for (QWidget* widget : std::initializer_list<QWidget*>{ui->spinDelay, ui->spinSampling, ui->spindTempMin,
-                                                               ui->spindTempMax, ui->buttonPreset})
+        for (QWidget* widget : std::initializer_list<QWidget*>{
+                 ui->spinDelay, ui->spinSampling, ui->spindTempMin, ui->spindTempMax, ui->buttonPreset})
             widget->setEnabled(false);
     } else {
         plUpdateTempRange();
@@ -176,4 +176,10 @@ void MainWindow::plWarn(const QString& title, const QString& text)
 {
     if (isVisible())
         QMessageBox::warning(this, title, text);
+}
+
+void MainWindow::plInform(const QString& title, const QString& text)
+{
+    if (isVisible())
+        QMessageBox::information(this, title, text);
 }

@@ -23,8 +23,9 @@ class MainWindow;
 
 /// The program's only window: what the operator sees of a logger, and the procedures that talk to it.
 ///
-/// Owns every long-lived object. Each procedure disables the controls first, since every exchange with the device
-/// spins the event loop and anything can arrive meanwhile. One class over several sources, one purpose each.
+/// Owns every long-lived object. Each procedure disables the controls first, since every exchange with the
+/// device spins the event loop and anything can arrive meanwhile. One class over several sources, one purpose
+/// each.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -69,13 +70,13 @@ private slots:
     void plChangesOcurred(bool set = true);
 
 private:
-    /// A free text on the logger with its line edit. The limit is its longest length in characters, and also the
-    /// width to which the command that writes it is padded.
+    /// A free text on the logger with its line edit. The limit is its longest length in characters, and also
+    /// the width to which the command that writes it is padded.
     struct TextSlot
     {
-        int number;
         QLineEdit* Ui::MainWindow::*edit;
         QLabel* Ui::MainWindow::*counter;
+        int number;
         int limit;
     };
 
@@ -93,6 +94,8 @@ private:
     bool plAsk(const QString& title, const QString& text);
     /// A warning with Ok. A window that was closed in the middle of a procedure says nothing more.
     void plWarn(const QString& title, const QString& text);
+    /// The same with a milder icon.
+    void plInform(const QString& title, const QString& text);
 
     // mainwindow_display.cpp
     void plClearDeviceInfo();

@@ -5,8 +5,8 @@
 #include "app/buttonicon.h"
 #include "ui_mainwindow.h"
 
-// Also the way out of the other procedures. A click that arrives while an exchange waits is not obeyed: it would
-// pull the link from under the procedure that waits.
+// Also the way out of the other procedures. A click that arrives while an exchange waits is not obeyed: it
+// would pull the link from under the procedure that waits.
 void MainWindow::plConnect()
 {
     if (device->lIsWaiting())
@@ -21,18 +21,19 @@ void MainWindow::plOpenConnection()
 {
     keepConnecting = true;
     if (!device->lConnectAuto()) {
-        plWarn(tr("Notice"), tr("<p>No device found!<br>") +
-                                 tr("Make sure the device is connected and try again.<br>") +
-                                 tr("If your Brumalogger USB is already connected as a USB Thumb Drive, this software "
-                                    "tool will be <b>unable</b> to connect to it.</p>"));
+        plWarn(tr("Notice"),
+               tr("<p>No device found!<br>") + tr("Make sure the device is connected and try again.<br>") +
+                   tr("If your Brumalogger USB is already connected as a USB Thumb Drive, this software "
+                      "tool will be <b>unable</b> to connect to it.</p>"));
         return;
     }
     plChangesOcurred(false);
     ui->statusBar->showMessage(tr("Connecting to device... "));
     if (!plReadFromDevice() && keepConnecting)
-        plWarn(tr("Notice"), tr("<p>Connected to device, but failed to read it correctly.<br>Please retry the Read "
-                                "operation.<br>If the issue persists, select <b>Disable fast Read/Write</b> under the "
-                                "<b>Settings</b> menu.</p>"));
+        plWarn(tr("Notice"),
+               tr("<p>Connected to device, but failed to read it correctly.<br>Please retry the Read "
+                  "operation.<br>If the issue persists, select <b>Disable fast Read/Write</b> under the "
+                  "<b>Settings</b> menu.</p>"));
     if (!keepConnecting)
         return;
     if (deviceLocked) {
@@ -69,13 +70,15 @@ void MainWindow::plLeaveDevice()
 void MainWindow::plShowConnectButton()
 {
     ui->buttonConnect->setText(tr("Connect"));
-    ui->buttonConnect->setIcon(buttonIcon(QStringLiteral(":/icon_connect.png"), ui->buttonConnect->iconSize()));
+    ui->buttonConnect->setIcon(
+        buttonIcon(QStringLiteral(":/icon_connect.png"), ui->buttonConnect->iconSize()));
     ui->buttonConnect->setToolTip(tr("Connect to device (%1)").arg(connectKeyText));
 }
 
 void MainWindow::plShowDisconnectButton()
 {
     ui->buttonConnect->setText(tr("Disconnect"));
-    ui->buttonConnect->setIcon(buttonIcon(QStringLiteral(":/icon_disconnect.png"), ui->buttonConnect->iconSize()));
+    ui->buttonConnect->setIcon(
+        buttonIcon(QStringLiteral(":/icon_disconnect.png"), ui->buttonConnect->iconSize()));
     ui->buttonConnect->setToolTip(tr("Disconnect from device (%1)").arg(connectKeyText));
 }

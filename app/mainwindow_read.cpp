@@ -32,6 +32,8 @@ bool MainWindow::plReadFromDevice()
     }
     device->lWait(device->lWaitTime());
     const bool identified = device->lGetIdentification(nullptr, nullptr, nullptr);
+    if (!device->lIsConnected())
+        return false; // the window was closed meanwhile
     ui->statusBar->showMessage(tr("Reading from device on %1").arg(device->lPortName()));
     ui->labelDateTime->setStyleSheet(QString());
 
@@ -90,7 +92,8 @@ StepResult MainWindow::plReadParameters(StepProgress& progress)
          [&] { plShowIdentification(name, firmware, hardware); }},
         {[&] { return device->lGetMultiuse(&multiuse); }, [&] { plShowType(multiuse); }},
         {[&] { return device->lGetDateTime(&now); }, [&] { plShowClock(now); }},
-        {[&] { return device->lGetTempRange(&tempMin, &tempMax); }, [&] { plSetTempRange(tempMin, tempMax); }},
+        {[&] { return device->lGetTempRange(&tempMin, &tempMax); },
+         [&] { plSetTempRange(tempMin, tempMax); }},
         {[&] { return device->lGetSamplingTime(&samplingTime); }, [&] { plSetSamplingTime(samplingTime); }},
         {[&] { return device->lGetStartDelay(&startDelay); }, [&] { plSetStartDelay(startDelay); }},
         {[&] { return device->lGetButtonLock(&locked); }, [&] { ui->checkLock->setChecked(locked); }},
@@ -117,7 +120,8 @@ void MainWindow::plShowClock(const QDateTime& now)
     plUpdateDateTime();
 }
 
-// A text that can't be read, or a cancel, ends the texts and fails nothing; the next step looks at the cancel again.
+// A text that can't be read, or a cancel, ends the texts and fails nothing; the next step looks at the cancel
+// again.
 int MainWindow::plReadTexts(StepProgress& progress)
 {
     int textsRead = 0;
@@ -138,9 +142,10 @@ void MainWindow::plFinishRead(StepProgress& progress, StepResult result)
 {
     progress.finish();
     if (result == StepResult::Failed)
-        plWarn(tr("Warning"), tr("<p>Read procedure failed.<br>Please retry the Read operation.<br>If the issue "
-                                 "persists, select <b>Disable fast Read/Write</b> under the <b>Settings</b> "
-                                 "menu.</p>"));
+        plWarn(tr("Warning"),
+               tr("<p>Read procedure failed.<br>Please retry the Read operation.<br>If the issue "
+                  "persists, select <b>Disable fast Read/Write</b> under the <b>Settings</b> "
+                  "menu.</p>"));
     plDisableControls(false);
     plChangesOcurred(false);
     ui->statusBar->showMessage(result == StepResult::Failed ? tr("Read failed. Please retry.")

@@ -5,8 +5,6 @@
 #include "app/devicetext.h"
 #include "ui_mainwindow.h"
 
-#include <QMessageBox>
-
 #include <iterator>
 
 namespace {
@@ -68,10 +66,10 @@ int indexOrEnd(const List& list, const Value& value)
 } // namespace
 
 const MainWindow::TextSlot MainWindow::textSlots[] = {
-    {0, &Ui::MainWindow::lineSender, &Ui::MainWindow::labelCountSender, maxReportTextLength},
-    {1, &Ui::MainWindow::lineRecipient, &Ui::MainWindow::labelCountRecipient, maxReportTextLength},
-    {2, &Ui::MainWindow::lineInfo, &Ui::MainWindow::labelCountInfo, maxReportTextLength},
-    {4, &Ui::MainWindow::lineBarcode, &Ui::MainWindow::labelCountBarcode, maxBarcodeLength},
+    {&Ui::MainWindow::lineSender, &Ui::MainWindow::labelCountSender, 0, maxReportTextLength},
+    {&Ui::MainWindow::lineRecipient, &Ui::MainWindow::labelCountRecipient, 1, maxReportTextLength},
+    {&Ui::MainWindow::lineInfo, &Ui::MainWindow::labelCountInfo, 2, maxReportTextLength},
+    {&Ui::MainWindow::lineBarcode, &Ui::MainWindow::labelCountBarcode, 4, maxBarcodeLength},
 };
 
 void MainWindow::plFillLists()
@@ -106,9 +104,10 @@ void MainWindow::plConnectCounters()
 {
     for (const TextSlot& slot : textSlots) {
         QLineEdit* edit = ui->*slot.edit;
-        connect(edit, &QLineEdit::textChanged, this, [this, edit, counter = ui->*slot.counter, limit = slot.limit] {
-            plUpdateTextCounter(edit, counter, limit);
-        });
+        connect(edit, &QLineEdit::textChanged, this,
+                [this, edit, counter = ui->*slot.counter, limit = slot.limit] {
+                    plUpdateTextCounter(edit, counter, limit);
+                });
     }
 }
 
@@ -181,8 +180,8 @@ void MainWindow::plValidateTempRange()
     const auto max = static_cast<float>(ui->spindTempMax->value());
     if (min + smallestSpan > max) {
         ui->spindTempMax->setValue(min + smallestSpan);
-        QMessageBox::information(this, tr("Notice"), tr("Maximum temperature must be at least\n"
-                                                        "one degree higher than minimum temperature."));
+        plInform(tr("Notice"), tr("Maximum temperature must be at least\n"
+                                  "one degree higher than minimum temperature."));
     }
 }
 

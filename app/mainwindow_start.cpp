@@ -2,8 +2,6 @@
 
 #include "app/mainwindow.h"
 
-#include <QMessageBox>
-
 void MainWindow::plStartLogger()
 {
     if (device->lIsWaiting())
@@ -20,8 +18,8 @@ void MainWindow::plStartLogger()
     }
     if (device->lStartLogger())
         plLeaveDevice();
-    else if (isVisible())
-        QMessageBox::information(this, tr("Error"), tr("Failed to start the device"));
+    else
+        plInform(tr("Error"), tr("Failed to start the device"));
 }
 
 // Older firmware has no policies. A word that can't be read is taken as a refusal.

@@ -1,5 +1,5 @@
-// The write procedure: the window's contents go to the logger, in a fixed order. The logger has no transaction; a
-// write that stops half-way leaves a mixed configuration, and the messages say so.
+// The write procedure: the window's contents go to the logger, in a fixed order. The logger has no
+// transaction; a write that stops half-way leaves a mixed configuration, and the messages say so.
 
 #include "app/mainwindow.h"
 
@@ -55,7 +55,8 @@ StepResult MainWindow::plWriteParameters(StepProgress& progress)
     return progress.walk(measurement, firstParameterValue);
 }
 
-// A text that can't be written, or a cancel, ends the texts and fails nothing; the next step looks at the cancel again.
+// A text that can't be written, or a cancel, ends the texts and fails nothing; the next step looks at the
+// cancel again.
 int MainWindow::plWriteTexts(StepProgress& progress)
 {
     int textsWritten = 0;
@@ -87,13 +88,15 @@ StepResult MainWindow::plWriteClosing(StepProgress& progress, int firstValue)
 void MainWindow::plFinishWrite(StepProgress& progress, bool succeeded)
 {
     if (progress.wasCanceled())
-        plWarn(tr("Warning"), tr("Write procedure canceled by user.\nParameters on device may be in an undefined "
-                                 "state.\nExecuting the procedure again is recommended."));
+        plWarn(tr("Warning"),
+               tr("Write procedure canceled by user.\nParameters on device may be in an undefined "
+                  "state.\nExecuting the procedure again is recommended."));
     progress.finish();
     if (!succeeded)
-        plWarn(tr("Warning"), tr("<p>Write procedure failed.<br>Parameters on device may be in an undefined "
-                                 "state.\nExecuting the procedure again is recommended.\nIf the issue persists, "
-                                 "select <b>Disable fast Read/Write</b> under the <b>Settings</b> menu.</p>"));
+        plWarn(tr("Warning"),
+               tr("<p>Write procedure failed.<br>Parameters on device may be in an undefined "
+                  "state.\nExecuting the procedure again is recommended.\nIf the issue persists, "
+                  "select <b>Disable fast Read/Write</b> under the <b>Settings</b> menu.</p>"));
     plDisableControls(false);
     plChangesOcurred(!succeeded);
     ui->statusBar->showMessage(succeeded ? tr("Write successful") : tr("Write failed. Please retry"));

@@ -15,8 +15,9 @@ struct Step
     std::function<void()> apply = {};
 };
 
-/// The progress dialog of a device procedure and the rule by which its steps follow each other: run the command;
-/// false is a failure; then the user may have cancelled; only then the bar moves and the answer is applied.
+/// The progress dialog of a device procedure and the rule by which its steps follow each other: run the
+/// command; false is a failure; then the user may have cancelled; only then the bar moves and the answer is
+/// applied.
 class StepProgress
 {
 public:

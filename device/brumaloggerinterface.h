@@ -21,10 +21,10 @@ enum DevicePolicy {
 
 /// The link to the logger: finds its serial port, speaks its command protocol and keeps the last values read.
 ///
-/// Every command is one exchange: the command's bytes go out bare (UTF-8, no terminator), and whatever has come
-/// in by the end of the reply wait is the reply. The wait spins the event loop and always runs to its end.
-/// Operations return false when the exchange or its reply failed; nothing is retried, and nobody but the log is
-/// told. A set operation is true only if the device answered "ok".
+/// Every command is one exchange: the command's bytes go out bare (UTF-8, no terminator), and whatever has
+/// come in by the end of the reply wait is the reply. The wait spins the event loop and always runs to its
+/// end. Operations return false when the exchange or its reply failed; nothing is retried, and nobody but the
+/// log is told. A set operation is true only if the device answered "ok".
 ///
 /// Wire units: times of the measuring setup are whole seconds, temperatures thousandths of a degree Celsius,
 /// dates seconds since the Unix epoch, the zone signed seconds east of UTC, flags "1" and "0".
@@ -161,7 +161,7 @@ public:
 public slots:
     /// Opens the port at 115200 baud and proves the device with "i". A failed proof leaves the port open; an
     /// open port is taken as it is and gives true.
-    bool lConnect(QString portName);
+    bool lConnect(const QString& portName);
     void lDisconnect();
 
 private slots:
@@ -176,6 +176,7 @@ private:
     bool plWriteRaw(const QByteArray& bytes);
     void plOnReadyRead();
     void plOnPortError(QSerialPort::SerialPortError error);
+    void plStopListening();
 
     // Shared by operations that differ in the command alone
     bool plGetSeconds(const QString& command, int* field, int* seconds);

@@ -41,7 +41,7 @@ bool BrumaloggerInterface::lConnectAuto()
     return false;
 }
 
-bool BrumaloggerInterface::lConnect(QString portName)
+bool BrumaloggerInterface::lConnect(const QString& portName)
 {
     if (port->isOpen())
         return true;
@@ -59,7 +59,7 @@ bool BrumaloggerInterface::lConnect(QString portName)
         return false;
     }
 
-    connected = lCheckIdentification();
+    connected = lCheckIdentification() && port->isOpen(); // closed, if the program is ended during the wait
     if (connected)
         qDebug() << "Brumalogger: Succesfully connected to " << portName;
     else

@@ -5,13 +5,23 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QScopedValueRollback>
+#include <QSocketNotifier>
 #include <QTime>
+
+#include <poll.h>
 
 namespace {
 
 constexpr int fastWait = 75;
 constexpr int slowWait = 150;
 constexpr int spinSlice = 10;
+
+// True once the plug was pulled.
+bool isHungUp(int line)
+{
+    pollfd query{line, POLLIN, 0};
+    return poll(&query, 1, 0) == 1 && (query.revents & POLLHUP) != 0;
+}
 
 } // namespace
 
@@ -32,8 +42,8 @@ void BrumaloggerInterface::lSetFastMode(bool fast)
     waitTime = fast ? fastWait : slowWait;
 }
 
-// The one place where the program waits. A deadline that wraps at midnight lies before the present time and ends
-// the wait at once.
+// The one place where the program waits. A deadline that wraps at midnight lies before the present time and
+// ends the wait at once.
 void BrumaloggerInterface::lWait(int msecs)
 {
     const QScopedValueRollback<bool> guard(waiting, true);
@@ -93,6 +103,19 @@ void BrumaloggerInterface::plOnReadyRead()
 
 void BrumaloggerInterface::plOnPortError(QSerialPort::SerialPortError error)
 {
-    if (error == QSerialPort::ReadError)
-        qWarning() << QObject::tr("I/O error when reading %1: %2").arg(port->portName(), port->errorString());
+    if (error != QSerialPort::ReadError)
+        return;
+    qWarning() << QObject::tr("I/O error when reading %1: %2").arg(port->portName(), port->errorString());
+    if (isHungUp(port->handle()))
+        plStopListening();
+}
+
+// A line that was hung up reports an end of data at every turn of the event loop, and the port would ask again and
+// fail again each time, until it is closed.
+void BrumaloggerInterface::plStopListening()
+{
+    for (QSocketNotifier* notifier : port->findChildren<QSocketNotifier*>()) {
+        if (notifier->type() == QSocketNotifier::Read)
+            notifier->setEnabled(false);
+    }
 }
