@@ -53,7 +53,8 @@ double median(std::vector<double> values)
     return *middle;
 }
 
-void print(const char* what, const char* unit, const std::vector<double>& first, const std::vector<double>& second)
+void print(const char* what, const char* unit, const std::vector<double>& first,
+           const std::vector<double>& second)
 {
     const double a = median(first);
     const double b = median(second);

@@ -1,5 +1,6 @@
-// Full reads of a logger through the window: their length against the sum of their waits, and the longest time for
-// which the event loop stood still meanwhile. Runs beside the simulated logger, which is a process of its own.
+// Full reads of a logger through the window: their length against the sum of their waits, and the longest
+// time for which the event loop stood still meanwhile. Runs beside the simulated logger, which is a process
+// of its own.
 
 #include "app/mainwindow.h"
 
@@ -19,13 +20,14 @@ constexpr int reads = 15;
 constexpr double sumOfWaits = 15 * 75.0;
 constexpr double nanosPerMilli = 1e6;
 
-/// Fires whenever the event loop has nothing else to do, and keeps the longest gap.
+/// A timer of one millisecond, and the longest gap between two of its ticks.
 class Heartbeat : public QObject
 {
 public:
     explicit Heartbeat(QObject* parent = nullptr)
         : QObject(parent)
     {
+        timer.setTimerType(Qt::PreciseTimer);
         QObject::connect(&timer, &QTimer::timeout, this, [this] { beat(); });
     }
 
@@ -33,7 +35,7 @@ public:
     {
         longest = 0;
         sinceLastBeat.start();
-        timer.start(0);
+        timer.start(1);
     }
 
     double stop()
@@ -58,30 +60,36 @@ private:
 void print(const char* what, std::vector<double> values, const char* unit)
 {
     std::sort(values.begin(), values.end());
-    std::printf("%-34s min %8.2f  median %8.2f  max %8.2f %s\n", what, values.front(), values[values.size() / 2],
-                values.back(), unit);
+    std::printf("%-34s min %8.2f  median %8.2f  max %8.2f %s\n", what, values.front(),
+                values[values.size() / 2], values.back(), unit);
 }
 
-int measure(MainWindow* window)
+double readOnce(QPushButton* readButton)
 {
-    window->findChild<QPushButton*>(QStringLiteral("buttonConnect"))->click();
-    auto* readButton = window->findChild<QPushButton*>(QStringLiteral("buttonRead"));
+    QElapsedTimer timer;
+    timer.start();
+    readButton->click();
+    return static_cast<double>(timer.nsecsElapsed()) / nanosPerMilli;
+}
+
+int measure(const MainWindow& window)
+{
+    window.findChild<QPushButton*>(QStringLiteral("buttonConnect"))->click();
+    auto* readButton = window.findChild<QPushButton*>(QStringLiteral("buttonRead"));
     std::vector<double> lengths;
     std::vector<double> excesses;
     std::vector<double> stalls;
-    Heartbeat heartbeat;
+    Heartbeat heartbeat; // for reads of its own: it lengthens them
     for (int i = 0; i < reads; ++i) {
         if (!readButton->isEnabled()) {
             std::fprintf(stderr, "the logger could not be read\n");
             return 1;
         }
-        QElapsedTimer timer;
-        timer.start();
-        heartbeat.start();
-        readButton->click();
-        stalls.push_back(heartbeat.stop());
-        lengths.push_back(static_cast<double>(timer.nsecsElapsed()) / nanosPerMilli);
+        lengths.push_back(readOnce(readButton));
         excesses.push_back((lengths.back() / sumOfWaits - 1) * 100);
+        heartbeat.start();
+        readOnce(readButton);
+        stalls.push_back(heartbeat.stop());
     }
     print("full read", lengths, "ms");
     print("above the sum of its waits", excesses, "%");
@@ -98,7 +106,7 @@ int main(int argc, char** argv)
     window.show();
     int result = 1;
     QTimer::singleShot(0, &window, [&] {
-        result = measure(&window);
+        result = measure(window);
         QApplication::quit();
     });
     QApplication::exec();

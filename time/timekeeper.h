@@ -18,8 +18,8 @@ public:
     /// A running clock that shows the computer's time.
     explicit TimeKeeper(QObject* parent = nullptr);
 
-    /// Makes the clock show @p time from now on. Always starts the tick, also of a stopped clock, and restarts
-    /// its phase. An invalid @p time is not guarded against.
+    /// Makes the clock show @p time from now on. Always starts the tick, also of a stopped clock, and
+    /// restarts its phase. An invalid @p time is not guarded against.
     void setTime(const QDateTime& time);
     /// Starts or stops the tick; a stopped clock keeps its last value.
     void setRunning(bool run);

@@ -1,0 +1,85 @@
+// Answers message boxes as an operator would, and checks their words.
+
+#include "support/dialogrobot.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QTimer>
+
+namespace {
+
+QString describe(const DialogRobot::Box& box)
+{
+    return QStringLiteral("[icon %1] \"%2\": \"%3\" (buttons %4)")
+        .arg(box.icon)
+        .arg(box.title, box.text)
+        .arg(static_cast<int>(box.buttons), 0, 16);
+}
+
+} // namespace
+
+DialogRobot::DialogRobot(QObject* parent)
+    : QObject(parent)
+{
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+void DialogRobot::expectWarning(const QString& title, const QString& text)
+{
+    expect({QMessageBox::Warning, title, text, QMessageBox::Ok}, QMessageBox::Ok);
+}
+
+void DialogRobot::expectInformation(const QString& title, const QString& text)
+{
+    expect({QMessageBox::Information, title, text, QMessageBox::Ok}, QMessageBox::Ok);
+}
+
+void DialogRobot::expectQuestion(const QString& title, const QString& text,
+                                 QMessageBox::StandardButton answer)
+{
+    expect({QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No}, answer);
+}
+
+void DialogRobot::expect(const Box& box, QMessageBox::StandardButton answer)
+{
+    expectations.append({box, answer});
+}
+
+QString DialogRobot::problems() const
+{
+    QStringList all = mistakes;
+    for (const Expectation& expectation : expectations)
+        all << QStringLiteral("never came: ") + describe(expectation.box);
+    return all.join(QLatin1Char('\n'));
+}
+
+bool DialogRobot::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Show) {
+        // The box answers from its own event loop, which isn't running yet.
+        if (auto* box = qobject_cast<QMessageBox*>(watched))
+            QTimer::singleShot(0, box, [this, box] { answerBox(box); });
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void DialogRobot::answerBox(QMessageBox* box)
+{
+    const Box actual{box->icon(), box->windowTitle(), box->text(), box->standardButtons()};
+    seen.append(actual);
+    emit sBoxOpened(actual.title);
+    if (expectations.isEmpty() || !matches(expectations.constFirst().box, actual)) {
+        mistakes << QStringLiteral("unexpected: ") + describe(actual);
+        box->reject();
+        return;
+    }
+    const Expectation expectation = expectations.takeFirst();
+    box->button(expectation.answer)->click();
+}
+
+bool DialogRobot::matches(const Box& expected, const Box& actual)
+{
+    return expected.icon == actual.icon && expected.title == actual.title && expected.text == actual.text &&
+           expected.buttons == actual.buttons;
+}

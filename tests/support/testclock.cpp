@@ -1,0 +1,76 @@
+// Stands in for the C library's wall clock in this process; the toolkit's clock classes read it.
+
+#include "support/testclock.h"
+
+#include <algorithm>
+#include <ctime>
+#include <sys/time.h>
+
+namespace {
+
+constexpr qint64 microsPerMilli = 1000;
+constexpr qint64 microsPerSecond = 1000000;
+constexpr qint64 nanosPerMicro = 1000;
+constexpr qint64 largestStep = 2 * microsPerMilli;
+
+struct Clock
+{
+    qint64 moved = 0;
+    bool stallsIgnored = false;
+    qint64 lastReading = 0;
+    qint64 stalled = 0;
+};
+
+Clock& theClock()
+{
+    static Clock clock;
+    return clock;
+}
+
+qint64 realMicros()
+{
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    return now.tv_sec * microsPerSecond + now.tv_nsec / nanosPerMicro;
+}
+
+qint64 readMicros()
+{
+    Clock& clock = theClock();
+    const qint64 real = realMicros();
+    if (clock.stallsIgnored)
+        clock.stalled += std::max<qint64>(0, real - clock.lastReading - largestStep);
+    clock.lastReading = real;
+    return real - clock.stalled + clock.moved;
+}
+
+} // namespace
+
+void TestClock::shift(qint64 msecs)
+{
+    theClock().moved += msecs * microsPerMilli;
+}
+
+void TestClock::set(qint64 msecs)
+{
+    theClock().moved += msecs * microsPerMilli - readMicros();
+}
+
+void TestClock::ignoreStalls()
+{
+    theClock().lastReading = realMicros();
+    theClock().stallsIgnored = true;
+}
+
+void TestClock::reset()
+{
+    theClock() = Clock();
+}
+
+extern "C" int gettimeofday(timeval* time, void* /*zone*/) noexcept
+{
+    const qint64 now = readMicros();
+    time->tv_sec = now / microsPerSecond;
+    time->tv_usec = now % microsPerSecond;
+    return 0;
+}

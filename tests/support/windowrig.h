@@ -1,0 +1,65 @@
+#pragma once
+
+#include "app/mainwindow.h"
+#include "simulator/usbbench.h"
+#include "support/dialogrobot.h"
+
+#include <QList>
+#include <QString>
+
+#include <functional>
+
+class QProgressDialog;
+
+/// A main window, a bench with simulated loggers, and a robot that answers the window's boxes. Widgets go by
+/// their object names, as an operator would find them by their place.
+class WindowRig
+{
+public:
+    /// Shows the window; nothing is plugged in yet.
+    WindowRig();
+
+    /// Plugs in a logger; the first one is also `logger`.
+    SimulatedPort* plug(const LoggerModel& model = {}, const UsbIdentity& identity = {});
+    /// Plugs in a logger, connects to it and empties the record of the wire.
+    void plugAndConnect(const LoggerModel& model = {});
+
+    template<typename Widget>
+    Widget* find(const char* name) const
+    {
+        auto* widget = window.findChild<Widget*>(QLatin1String(name));
+        if (!widget)
+            qFatal("no widget named %s", name);
+        return widget;
+    }
+
+    /// Presses a button of the window and returns when all that it set off is over.
+    void press(const char* buttonName);
+    QString status() const;
+    QString title() const { return window.windowTitle(); }
+    bool isModified() const { return title().endsWith(QLatin1Char('*')); }
+    QString text(const char* lineOrLabelOrButtonName) const;
+    bool isEnabled(const char* widgetName) const;
+    /// True when every control of "connected and idle" is enabled, and false when every one is disabled; a
+    /// mixture is told in words by controlsMixture().
+    bool controlsEnabled() const;
+    QString controlsMixture() const;
+    /// The progress dialog now on show, or null.
+    QProgressDialog* progressDialog() const;
+    /// Does @p action when the logger has received its n-th command from now (1 is the next), before it is
+    /// answered.
+    void atCommand(int number, const std::function<void()>& action);
+
+    /// The commands on the first logger's wire since plugging or clearExchanges().
+    QList<QByteArray> wire() const { return logger->commands(); }
+
+    UsbBench bench;
+    MainWindow window;
+    DialogRobot robot;
+    SimulatedPort* logger = nullptr;
+};
+
+/// The logger of most tests: basic firmware 1.1.9, with a value of its own in every place.
+LoggerModel basicLogger();
+/// Firmware 1.2.0, otherwise the same.
+LoggerModel extendedLogger();
