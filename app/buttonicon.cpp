@@ -7,16 +7,15 @@
 
 namespace {
 
-constexpr int density = 2;
-/// Coarse reduction first: averaging all of a large image costs more than unpacking it.
-constexpr int oversampling = 3;
+/// The images are first thinned out to this many times the size: averaging all of their pixels would cost
+/// more than unpacking them.
+constexpr int oversampling = 6;
 
 } // namespace
 
 QIcon buttonIcon(const QString& path, QSize size)
 {
-    const QSize kept = size * density;
     // Naming the format spares the toolkit a look through its image plug-ins.
-    const QImage coarse = QImage(path, "PNG").scaled(kept * oversampling, Qt::KeepAspectRatio);
-    return {QPixmap::fromImage(coarse.scaled(kept, Qt::KeepAspectRatio, Qt::SmoothTransformation))};
+    const QImage coarse = QImage(path, "PNG").scaled(size * oversampling, Qt::KeepAspectRatio);
+    return {QPixmap::fromImage(coarse.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation))};
 }

@@ -5,6 +5,6 @@
 
 class QString;
 
-/// The button image at @p path, kept at twice @p size, which is sharp on dense screens too. The images are
-/// large; keeping them whole, as an icon read from a file does, would cost the start time and megabytes.
+/// The button image at @p path, cut down to @p size. The images are large; keeping them whole, as an icon
+/// read from a file does, would cost the start time and megabytes.
 QIcon buttonIcon(const QString& path, QSize size);

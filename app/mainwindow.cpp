@@ -3,6 +3,7 @@
 #include "app/mainwindow.h"
 
 #include "app/buttonicon.h"
+#include "device/brumaloggerinterface.h"
 #include "ui_mainwindow.h"
 
 #include <QCloseEvent>
@@ -13,6 +14,9 @@
 
 namespace {
 
+/// A web server of the maker, which redirects to the guide.
+constexpr auto onlineHelpAddress = "http://www.polarridgeworks.example/redir/guide/brumaloggerconftool";
+
 struct MainButton
 {
     QPushButton* Ui::MainWindow::*button;
@@ -21,12 +25,9 @@ struct MainButton
     const char* toolTip;
 };
 
-/// A web server of the maker, which redirects to the guide.
-constexpr auto onlineHelpAddress = "http://www.polarridgeworks.example/redir/guide/brumaloggerconftool";
-
+/// The Connect button, which changes its looks, has them in mainwindow_connect.cpp.
+constexpr auto connectShortcut = "Ctrl+K";
 constexpr MainButton mainButtons[] = {
-    {&Ui::MainWindow::buttonConnect, ":/icon_connect.png", "Ctrl+K",
-     QT_TRANSLATE_NOOP("MainWindow", "Connect to device (%1)")},
     {&Ui::MainWindow::buttonRead, ":/icon_read.png", "Ctrl+R",
      QT_TRANSLATE_NOOP("MainWindow", "Read data from device (%1)")},
     {&Ui::MainWindow::buttonWrite, ":/icon_write.png", "Ctrl+W",
@@ -36,6 +37,14 @@ constexpr MainButton mainButtons[] = {
     {&Ui::MainWindow::buttonPreset, ":/icon_load.png", "Ctrl+P",
      QT_TRANSLATE_NOOP("MainWindow", "Load default preset (%1)")},
 };
+
+/// Gives @p button a keyboard shortcut, and returns its text for a tool tip.
+QString addShortcut(QPushButton* button, const char* keys)
+{
+    auto* shortcut = new QShortcut(QKeySequence(QLatin1String(keys)), button);
+    QObject::connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
+    return shortcut->key().toString(QKeySequence::NativeText);
+}
 
 } // namespace
 
@@ -65,7 +74,7 @@ MainWindow::~MainWindow()
 // Where two slots hang on one signal they run in the order of these lines.
 void MainWindow::plConnectSignals()
 {
-    connect(&timeKeeper, &TimeKeeper::sUpdate, this, [this] { plUpdateDateTime(); });
+    connect(&timeKeeper, &TimeKeeper::sUpdate, this, &MainWindow::plUpdateDateTime);
     plConnectChanges();
     plConnectCounters();
     connect(ui->buttonStart, &QPushButton::clicked, this, &MainWindow::plStartLogger);
@@ -77,9 +86,9 @@ void MainWindow::plConnectSignals()
         connect(label, &QLabel::customContextMenuRequested, this,
                 [this, label] { plProcessCustomLabelMenu(label); });
     const auto indexChanged = QOverload<int>::of(&QComboBox::currentIndexChanged);
-    connect(ui->comboTemp, indexChanged, this, [this] { plUpdateTempRange(); });
-    connect(ui->comboSampling, indexChanged, this, [this] { plUpdateSamplingTime(); });
-    connect(ui->comboDelay, indexChanged, this, [this] { plUpdateStartDelay(); });
+    connect(ui->comboTemp, indexChanged, this, &MainWindow::plUpdateTempRange);
+    connect(ui->comboSampling, indexChanged, this, &MainWindow::plUpdateSamplingTime);
+    connect(ui->comboDelay, indexChanged, this, &MainWindow::plUpdateStartDelay);
     connect(ui->spindTempMax, &QDoubleSpinBox::editingFinished, this, &MainWindow::plValidateTempRange);
     connect(ui->spindTempMin, &QDoubleSpinBox::editingFinished, this, &MainWindow::plValidateTempRange);
     connect(ui->actionWebHelp, &QAction::triggered, this,
@@ -99,15 +108,12 @@ void MainWindow::plConnectChanges()
 
 void MainWindow::plSetUpButtons()
 {
+    connectKeyText = addShortcut(ui->buttonConnect, connectShortcut);
+    plShowConnectButton();
     for (const MainButton& row : mainButtons) {
         QPushButton* button = ui->*row.button;
-        auto* shortcut = new QShortcut(QKeySequence(QLatin1String(row.shortcut)), button);
-        connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
-        const QString keyText = shortcut->key().toString(QKeySequence::NativeText);
-        if (button == ui->buttonConnect)
-            connectKeyText = keyText;
         button->setIcon(buttonIcon(QLatin1String(row.icon), button->iconSize()));
-        button->setToolTip(tr(row.toolTip).arg(keyText));
+        button->setToolTip(tr(row.toolTip).arg(addShortcut(button, row.shortcut)));
     }
     ui->buttonAdvanced->setToolTip(tr("Advanced security and startup options"));
 }
@@ -124,8 +130,8 @@ void MainWindow::showEvent(QShowEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (modified && !plAsk(tr("Exit"), tr("There are modifications that were not written to the device.\n"
-                                          "Do you really wish to exit?"))) {
+    if (modified && plAsk(tr("Exit"), tr("There are modifications that were not written to the device.\n"
+                                         "Do you really wish to exit?")) == QMessageBox::No) {
         event->ignore();
         return;
     }
@@ -167,9 +173,9 @@ void MainWindow::plChangesOcurred(bool set)
     }
 }
 
-bool MainWindow::plAsk(const QString& title, const QString& text)
+QMessageBox::StandardButton MainWindow::plAsk(const QString& title, const QString& text)
 {
-    return QMessageBox::question(this, title, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    return QMessageBox::question(this, title, text, QMessageBox::Yes | QMessageBox::No);
 }
 
 void MainWindow::plWarn(const QString& title, const QString& text)

@@ -1,15 +1,16 @@
 #pragma once
 
-#include "device/brumaloggerinterface.h"
 #include "time/timekeeper.h"
 
 #include <QList>
 #include <QMainWindow>
+#include <QMessageBox>
 #include <QPair>
 #include <QSharedPointer>
 #include <QString>
 #include <QStringList>
 
+class BrumaloggerInterface;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -90,8 +91,8 @@ private:
     void plConnectChanges();
     void plSetUpButtons();
     void plDisableControls(bool disabled);
-    /// A question with Yes and No; true for Yes.
-    bool plAsk(const QString& title, const QString& text);
+    /// A question with Yes and No.
+    QMessageBox::StandardButton plAsk(const QString& title, const QString& text);
     /// A warning with Ok. A window that was closed in the middle of a procedure says nothing more.
     void plWarn(const QString& title, const QString& text);
     /// The same with a milder icon.
@@ -125,6 +126,7 @@ private:
     void plShowDisconnectButton();
 
     // mainwindow_read.cpp
+    bool plRead();
     void plClearBeforeRead();
     [[nodiscard]] StepResult plReadSteps(StepProgress& progress);
     [[nodiscard]] StepResult plReadParameters(StepProgress& progress);
@@ -160,5 +162,7 @@ private:
     QList<QPair<float, float>> tempRanges;
     QList<int> sampleTimes;
     bool modified = false;
+    bool procedureRuns =
+        false; ///< connect, read, write or start; a click that arrives meanwhile is not obeyed
     bool shownBefore = false;
 };

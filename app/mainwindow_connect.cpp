@@ -3,14 +3,16 @@
 #include "app/mainwindow.h"
 
 #include "app/buttonicon.h"
+#include "device/brumaloggerinterface.h"
 #include "ui_mainwindow.h"
 
-// Also the way out of the other procedures. A click that arrives while an exchange waits is not obeyed: it
-// would pull the link from under the procedure that waits.
+#include <QScopedValueRollback>
+
 void MainWindow::plConnect()
 {
-    if (device->lIsWaiting())
+    if (procedureRuns)
         return;
+    const QScopedValueRollback<bool> guard(procedureRuns, true);
     if (device->lIsConnected())
         plCloseConnection();
     else
@@ -29,7 +31,7 @@ void MainWindow::plOpenConnection()
     }
     plChangesOcurred(false);
     ui->statusBar->showMessage(tr("Connecting to device... "));
-    if (!plReadFromDevice() && keepConnecting)
+    if (!plRead() && keepConnecting)
         plWarn(tr("Notice"),
                tr("<p>Connected to device, but failed to read it correctly.<br>Please retry the Read "
                   "operation.<br>If the issue persists, select <b>Disable fast Read/Write</b> under the "
@@ -49,8 +51,8 @@ void MainWindow::plOpenConnection()
 void MainWindow::plCloseConnection()
 {
     if (modified &&
-        !plAsk(tr("Disconnecting"), tr("There are modifications that were not written to the device.\n"
-                                       "Do you really wish to disconnect?")))
+        plAsk(tr("Disconnecting"), tr("There are modifications that were not written to the device.\n"
+                                      "Do you really wish to disconnect?")) == QMessageBox::No)
         return;
     device->lDisconnect();
     plShowConnectButton();
@@ -64,7 +66,7 @@ void MainWindow::plCloseConnection()
 void MainWindow::plLeaveDevice()
 {
     if (device->lIsConnected())
-        plConnect();
+        plCloseConnection();
 }
 
 void MainWindow::plShowConnectButton()

@@ -3,11 +3,16 @@
 #include "app/mainwindow.h"
 
 #include "app/stepprogress.h"
+#include "device/brumaloggerinterface.h"
 #include "ui_mainwindow.h"
+
+#include <QScopedValueRollback>
 
 namespace {
 
 constexpr int firstTextValue = 8;
+/// The bar still passes through the values of what older firmware doesn't have.
+constexpr int spareValues = 3;
 
 // "01.02.03" shows as "1.2.3".
 QString normalisedVersion(const QString& version)
@@ -22,11 +27,17 @@ QString normalisedVersion(const QString& version)
 
 bool MainWindow::plReadFromDevice()
 {
-    if (device->lIsWaiting())
-        return true; // pressed while another procedure waits for the device
+    if (procedureRuns)
+        return true;
+    const QScopedValueRollback<bool> guard(procedureRuns, true);
+    return plRead();
+}
+
+bool MainWindow::plRead()
+{
     plDisableControls(true);
-    if (modified && !plAsk(tr("Read from device"), tr("Reading from the device now will erase your changes.\n"
-                                                      "Do you wish to proceed?"))) {
+    if (modified && plAsk(tr("Read from device"), tr("Reading from the device now will erase your changes.\n"
+                                                     "Do you wish to proceed?")) == QMessageBox::No) {
         plDisableControls(false);
         return true;
     }
@@ -66,7 +77,7 @@ StepResult MainWindow::plReadSteps(StepProgress& progress)
 
     if (!device->lIsExtendedFirmware()) {
         const int next = firstTextValue + textsRead;
-        for (int value = next; value < next + 3; ++value)
+        for (int value = next; value < next + spareValues; ++value)
             progress.setValue(value);
     }
     return StepResult::Done;

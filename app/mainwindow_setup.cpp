@@ -5,6 +5,7 @@
 #include "app/devicetext.h"
 #include "ui_mainwindow.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace {

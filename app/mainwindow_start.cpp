@@ -2,15 +2,21 @@
 
 #include "app/mainwindow.h"
 
+#include "device/brumaloggerinterface.h"
+
+#include <QScopedValueRollback>
+
 void MainWindow::plStartLogger()
 {
-    if (device->lIsWaiting())
+    if (procedureRuns)
         return;
+    const QScopedValueRollback<bool> guard(procedureRuns, true);
     if (modified &&
-        !plAsk(tr("Starting logger"), tr("There are modifications that were not written to the device.\n"
-                                         "Do you really wish to start the device?")))
+        plAsk(tr("Starting logger"), tr("There are modifications that were not written to the device.\n"
+                                        "Do you really wish to start the device?")) == QMessageBox::No)
         return;
-    if (!plAsk(tr("Confirm"), tr("Do you wish to start the device?\nThis operation cannot be undone.")))
+    if (plAsk(tr("Confirm"), tr("Do you wish to start the device?\nThis operation cannot be undone.")) !=
+        QMessageBox::Yes)
         return;
     if (!plMayStart()) {
         plWarn(tr("Software START is disabled"), tr("Software START is disabled on this logger."));

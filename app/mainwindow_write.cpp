@@ -4,7 +4,10 @@
 #include "app/mainwindow.h"
 
 #include "app/stepprogress.h"
+#include "device/brumaloggerinterface.h"
 #include "ui_mainwindow.h"
+
+#include <QScopedValueRollback>
 
 namespace {
 
@@ -12,14 +15,17 @@ constexpr int secondsPerMinute = 60;
 constexpr int synchronisedValue = 1;
 constexpr int firstParameterValue = 2;
 constexpr int firstTextValue = 5;
+/// The bar still passes through the values of what older firmware doesn't have.
+constexpr int spareValues = 5;
 constexpr int unpadded = -1;
 
 } // namespace
 
 bool MainWindow::plWriteToDevice()
 {
-    if (device->lIsWaiting())
-        return true; // pressed while another procedure waits for the device
+    if (procedureRuns)
+        return true;
+    const QScopedValueRollback<bool> guard(procedureRuns, true);
     plDisableControls(true);
     ui->statusBar->showMessage(tr("Writing to device..."));
     StepProgress progress(tr("Writing to device"), windowTitleBase, this);
@@ -79,7 +85,7 @@ StepResult MainWindow::plWriteClosing(StepProgress& progress, int firstValue)
     const StepResult result = progress.walk(steps, firstValue);
     if (result == StepResult::Done && !device->lIsExtendedFirmware()) {
         const int next = firstValue + static_cast<int>(steps.size());
-        for (int value = next; value < next + 5; ++value)
+        for (int value = next; value < next + spareValues; ++value)
             progress.setValue(value);
     }
     return result;

@@ -2,6 +2,8 @@
 
 #include "app/stepprogress.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 constexpr int lastValue = 17;
@@ -9,8 +11,9 @@ constexpr int lastValue = 17;
 } // namespace
 
 StepProgress::StepProgress(const QString& label, const QString& title, QWidget* parent)
-    : dialog(label, QProgressDialog::tr("Cancel"), 0, lastValue, parent)
+    : dialog(label, QCoreApplication::translate("MainWindow", "Cancel"), 0, lastValue, parent)
 {
+    dialog.setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     dialog.setWindowTitle(title);
     dialog.setWindowModality(Qt::WindowModal);
     dialog.show();

@@ -117,7 +117,7 @@ public:
     /// "?": true when the device answered; @p accepted (no null) tells whether the password was right. The
     /// password travels in plain text and is cut to 30 characters.
     bool lTryPassword(const QString& password, bool* accepted);
-    /// "!": sets the password, cut to 30 characters; an empty one removes it.
+    /// "!": sets the password, cut to 30 characters; it may be empty.
     bool lSetPassword(const QString& password);
 
     // Policies and automatic dates.
@@ -205,7 +205,7 @@ private:
     bool buttonLock = false;
     bool multiuse = false;
     TimeKeeper deviceClock;
-    int waitTime = 75;
+    int waitTime;
     bool fastMode = true;
     bool waiting = false;
 };

@@ -110,8 +110,8 @@ void BrumaloggerInterface::plOnPortError(QSerialPort::SerialPortError error)
         plStopListening();
 }
 
-// A line that was hung up reports an end of data at every turn of the event loop, and the port would ask again and
-// fail again each time, until it is closed.
+// A line that was hung up reports an end of data at every turn of the event loop, and the port would ask
+// again and fail again each time, until it is closed.
 void BrumaloggerInterface::plStopListening()
 {
     for (QSocketNotifier* notifier : port->findChildren<QSocketNotifier*>()) {

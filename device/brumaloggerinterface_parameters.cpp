@@ -5,13 +5,15 @@
 #include <QDebug>
 #include <QtGlobal>
 
+#include <climits>
+
 namespace {
 
 constexpr int shortestTime = 60;
 constexpr int longestTime = 57600;
 constexpr int thousandths = 1000;
-constexpr int majorFactor = 1000000;
-constexpr int minorFactor = 1000;
+constexpr qint64 majorFactor = 1000000;
+constexpr qint64 minorFactor = 1000;
 constexpr int extendedFirmware = 1002000;
 constexpr qint64 clockTolerance = 172800;
 constexpr int startWaits = 4;
@@ -274,7 +276,8 @@ int BrumaloggerInterface::lFirmwareCode() const
     const QStringList parts = firmwareVersion.split(QLatin1Char('.'));
     if (parts.size() != 3)
         return 0;
-    return parts[0].toInt() * majorFactor + parts[1].toInt() * minorFactor + parts[2].toInt();
+    const qint64 code = parts[0].toInt() * majorFactor + parts[1].toInt() * minorFactor + parts[2].toInt();
+    return static_cast<int>(qBound<qint64>(INT_MIN, code, INT_MAX)); // the parts are the device's word only
 }
 
 bool BrumaloggerInterface::lIsExtendedFirmware() const

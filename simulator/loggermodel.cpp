@@ -12,12 +12,12 @@ namespace {
 constexpr int firstExtendedFirmware = 1002000;
 
 /// 1.2.0 as 1002000; 0 unless there are three parts.
-int firmwareCode(const QString& firmware)
+qint64 firmwareCode(const QString& firmware)
 {
     const QStringList parts = firmware.split(QLatin1Char('.'));
     if (parts.size() != 3)
         return 0;
-    return parts[0].toInt() * 1000000 + parts[1].toInt() * 1000 + parts[2].toInt();
+    return parts[0].toInt() * Q_INT64_C(1000000) + parts[1].toInt() * Q_INT64_C(1000) + parts[2].toInt();
 }
 
 const char* stateName(LoggerModel::State state)

@@ -14,7 +14,7 @@ class TimeKeeper : public QObject
 
 public:
     /// A running clock that now shows @p start.
-    explicit TimeKeeper(const QDateTime& start, QObject* parent);
+    TimeKeeper(const QDateTime& start, QObject* parent);
     /// A running clock that shows the computer's time.
     explicit TimeKeeper(QObject* parent = nullptr);
 
