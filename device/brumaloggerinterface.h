@@ -176,7 +176,7 @@ private:
     bool plWriteRaw(const QByteArray& bytes);
     void plOnReadyRead();
     void plOnPortError(QSerialPort::SerialPortError error);
-    void plStopListening();
+    void plStopAsking();
 
     // Shared by operations that differ in the command alone
     bool plGetSeconds(const QString& command, int* field, int* seconds);

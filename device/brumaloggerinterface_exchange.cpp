@@ -103,19 +103,16 @@ void BrumaloggerInterface::plOnReadyRead()
 
 void BrumaloggerInterface::plOnPortError(QSerialPort::SerialPortError error)
 {
-    if (error != QSerialPort::ReadError)
-        return;
-    qWarning() << QObject::tr("I/O error when reading %1: %2").arg(port->portName(), port->errorString());
-    if (isHungUp(port->handle()))
-        plStopListening();
+    if (error == QSerialPort::ReadError)
+        qWarning() << QObject::tr("I/O error when reading %1: %2").arg(port->portName(), port->errorString());
+    if (error != QSerialPort::NoError && isHungUp(port->handle()))
+        plStopAsking();
 }
 
-// A line that was hung up reports an end of data at every turn of the event loop, and the port would ask
-// again and fail again each time, until it is closed.
-void BrumaloggerInterface::plStopListening()
+// A line that was hung up is ready at every turn of the event loop, and the port would read or write and fail
+// each time, until it is closed.
+void BrumaloggerInterface::plStopAsking()
 {
-    for (QSocketNotifier* notifier : port->findChildren<QSocketNotifier*>()) {
-        if (notifier->type() == QSocketNotifier::Read)
-            notifier->setEnabled(false);
-    }
+    for (QSocketNotifier* notifier : port->findChildren<QSocketNotifier*>())
+        notifier->setEnabled(false);
 }

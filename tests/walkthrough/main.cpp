@@ -99,6 +99,7 @@ void Walk::setValue(const char* spinBox, const QString& value)
     box->selectAll();
     QTest::keyClicks(box, box->locale().toString(value.toDouble()));
     QTest::keyClick(box, Qt::Key_Return);
+    box->findChild<QLineEdit*>()->deselect();
 }
 
 bool Walk::check(const QString& stage, const QString& status)

@@ -1,0 +1,143 @@
+// A window, a logger and an operator's hands, for tests of the device procedures.
+
+#include "procedurerig.h"
+
+#include "quickwire.h"
+#include "support/testclock.h"
+
+#include <QDateTime>
+#include <QLineEdit>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTest>
+#include <QTimer>
+
+ProcedureRig::ProcedureRig()
+{
+    TestClock::set(QDateTime(QDate(2024, 5, 15), QTime(12, 0)).toMSecsSinceEpoch());
+    QObject::connect(find<QStatusBar>("statusBar"), &QStatusBar::messageChanged, &window,
+                     [this](const QString& message) { statusLog << message; });
+}
+
+SimulatedPort* ProcedureRig::plug(const LoggerModel& model, const UsbIdentity& identity)
+{
+    SimulatedPort* port = WindowRig::plug(model, identity);
+    if (!port)
+        qFatal("no logger could be plugged in");
+    new QuickWire(port);
+    return port;
+}
+
+void ProcedureRig::plugAndConnect(const LoggerModel& model)
+{
+    plug(model);
+    press("buttonConnect");
+    logger->clearExchanges();
+}
+
+void ProcedureRig::unplugAll()
+{
+    for (SimulatedPort* port : bench.ports())
+        bench.unplug(port);
+    logger = nullptr;
+}
+
+void ProcedureRig::disturb(int command, Fault::Kind kind, const QByteArray& bytes)
+{
+    Fault fault;
+    fault.kind = kind;
+    fault.exchange = command;
+    fault.bytes = bytes;
+    logger->faults().add(fault);
+}
+
+void ProcedureRig::disturb(const QByteArray& command, Fault::Kind kind, const QByteArray& bytes)
+{
+    Fault fault;
+    fault.kind = kind;
+    fault.command = command;
+    fault.bytes = bytes;
+    logger->faults().add(fault);
+}
+
+void ProcedureRig::type(const char* lineName, const QString& text)
+{
+    auto* line = find<QLineEdit>(lineName);
+    line->selectAll();
+    line->insert(text);
+}
+
+void ProcedureRig::pressCancel()
+{
+    auto* dialog = progressDialog();
+    auto* button = dialog ? dialog->findChild<QPushButton*>() : nullptr;
+    if (!button)
+        qFatal("there is no progress dialog to cancel");
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+
+void ProcedureRig::atNextChance(const std::function<void()>& action)
+{
+    auto* timer = new QTimer(&window);
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, timer, action);
+    timer->start(0);
+}
+
+void ProcedureRig::pressKeys(Qt::Key key)
+{
+    QTest::keyClick(&window, key, Qt::ControlModifier);
+}
+
+void ProcedureRig::activate()
+{
+    window.activateWindow();
+    if (!QTest::qWaitForWindowActive(&window))
+        qFatal("the window did not become active");
+}
+
+QStringList ProcedureRig::takeStatusLog()
+{
+    QStringList taken;
+    taken.swap(statusLog);
+    return taken;
+}
+
+QList<QByteArray> readCommands()
+{
+    return {"i", "e", "i", "m", "g", "Gt", "Gs", "Gd", "Gl", "G0", "G1", "G2", "G4", "G3"};
+}
+
+QList<QByteArray> connectCommands()
+{
+    return QList<QByteArray>{"i"} + readCommands();
+}
+
+QList<QByteArray> writeCommandsOfBasicLogger()
+{
+    return {"St-0010000-0001000",
+            "Ss00000600",
+            "Sd00003600",
+            "Sl1",
+            "S0Northern Pharma                                           ",
+            "S1City Hospital                                             ",
+            "S2Batch 7                                                   ",
+            "S4B1234   ",
+            "S3Land",
+            "k"};
+}
+
+QList<QByteArray> firstOf(const QList<QByteArray>& commands, int count)
+{
+    return commands.mid(0, count);
+}
+
+void addCommandRows(const QList<QByteArray>& commands, const QList<int>& numbers)
+{
+    QTest::addColumn<int>("command");
+    for (int number = 1; number <= commands.size(); ++number) {
+        if (numbers.isEmpty() || numbers.contains(number))
+            QTest::addRow("%d %s", number, commands.at(number - 1).left(2).constData()) << number;
+    }
+}

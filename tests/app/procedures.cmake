@@ -1,0 +1,19 @@
+# The procedures, driven through the real window and a simulated logger.
+add_library(brumalogger_proceduretests STATIC
+  procedurerig.cpp procedurerig.h
+  progresswatch.cpp progresswatch.h
+  quickwire.cpp quickwire.h
+  windowstate.cpp windowstate.h
+  windowwords.cpp windowwords.h
+)
+target_link_libraries(brumalogger_proceduretests PUBLIC brumalogger_testsupport)
+foreach(concern
+    discovery connect
+    read readfailures readreplies
+    write writefailures
+    start
+    unplug closing interruptions)
+  brumalogger_add_test(tst_mainwindow_${concern} SOURCES tst_mainwindow_${concern}.cpp
+    LINK brumalogger_proceduretests MOCK)
+endforeach()
+brumalogger_add_test(tst_mainwindow_flow SOURCES tst_mainwindow_flow.cpp LINK brumalogger_proceduretests MOCK X11)

@@ -1,0 +1,259 @@
+// Where the widgets stand in the window, in which order the Tab key reaches them, its sizes and its icon.
+
+#include "app/mainwindow.h"
+#include "formrows.h"
+#include "procedurerig.h"
+
+#include <QDir>
+#include <QFile>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QImage>
+#include <QRegularExpression>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+
+namespace {
+
+/// Puts the process into a folder of its own for as long as it lives.
+class OtherFolder
+{
+public:
+    OtherFolder() { QDir::setCurrent(folder.path()); }
+    ~OtherFolder() { QDir::setCurrent(before); }
+
+private:
+    QString before = QDir::currentPath();
+    QTemporaryDir folder;
+};
+
+constexpr const char* hiddenAtStart[] = {"labelTimeZone",        "labelTimeZoneStatic", "labelLastReset",
+                                         "labelLastResetStatic", "buttonAdvanced",      "buttonToolTimeZone"};
+
+template<typename Object>
+Object* child(const QWidget& window, const char* name)
+{
+    auto* found = window.findChild<Object*>(QLatin1String(name));
+    if (!found)
+        qFatal("nothing named %s", name);
+    return found;
+}
+
+/// True if the form's file itself sets the property to true.
+bool formSets(const QString& property)
+{
+    QFile file(QStringLiteral(FORM_FILE));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("no form file");
+    const QRegularExpression setting(
+        QStringLiteral("<property name=\"%1\">\\s*<bool>true</bool>").arg(property));
+    return setting.match(QString::fromUtf8(file.readAll())).hasMatch();
+}
+
+/// Where a widget's upper edge is in the window.
+int topOf(const WindowRig& rig, const char* name)
+{
+    return rig.find<QWidget>(name)->mapTo(&rig.window, QPoint(0, 0)).y();
+}
+
+bool areInOneRow(const WindowRig& rig, const char* one, const char* other)
+{
+    const auto middleOf = [&rig](const char* name) {
+        return topOf(rig, name) + rig.find<QWidget>(name)->height() / 2;
+    };
+    return qAbs(middleOf(one) - middleOf(other)) <= 1;
+}
+
+bool isGroup(const FormRow& row)
+{
+    return qstrcmp(row.className, "QGroupBox") == 0;
+}
+
+} // namespace
+
+class TestMainWindowLayout : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void grid_data();
+    void grid();
+    void groups();
+    void stacksItsGroups();
+    void setupFromTopToBottom();
+    void trackingInOneRow();
+    void tabOrder();
+    void sizes();
+    void iconFromWorkingDirectory();
+    void noIconWithoutTheFile();
+    void unifiedTitle();
+    void hiddenWidgets();
+};
+
+void TestMainWindowLayout::grid_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("column");
+    const auto pair = [](int row, const char* left, const char* right) {
+        QTest::newRow(left) << row << 0;
+        QTest::newRow(right) << row << 1;
+    };
+    pair(0, "label", "labelDeviceName");
+    pair(1, "label_3", "labelFirmwareVersion");
+    pair(2, "label_20", "labelHardwareRevision");
+    pair(3, "label_5", "labelSerial");
+    pair(4, "label_22", "labelType");
+    pair(5, "labelLastResetStatic", "labelLastReset");
+    QTest::newRow("labelLowBattery") << 6 << 0;
+    pair(8, "label_8", "labelDateTime");
+    QTest::newRow("buttonToolTimeZone") << 8 << 2;
+    pair(9, "labelTimeZoneStatic", "labelTimeZone");
+
+    const auto line = [&pair](int row, const char* left, const char* edit, const char* counter) {
+        pair(row, left, edit);
+        QTest::newRow(counter) << row << 2;
+    };
+    line(0, "label_13", "lineSender", "labelCountSender");
+    line(1, "label_14", "lineRecipient", "labelCountRecipient");
+    line(2, "label_17", "lineInfo", "labelCountInfo");
+}
+
+void TestMainWindowLayout::grid()
+{
+    const MainWindow window;
+    auto* widget = child<QWidget>(window, QTest::currentDataTag());
+    const auto* grid = qobject_cast<QGridLayout*>(widget->parentWidget()->layout());
+    QVERIFY(grid);
+    QCOMPARE(grid->columnCount(), 3);
+    int row = -1;
+    int column = -1;
+    int rowSpan = 0;
+    int columnSpan = 0;
+    grid->getItemPosition(grid->indexOf(widget), &row, &column, &rowSpan, &columnSpan);
+    QTEST(row, "row");
+    QTEST(column, "column");
+}
+
+// The rows of the form come group by group, with the buttons below the groups last.
+void TestMainWindowLayout::groups()
+{
+    const MainWindow window;
+    const QWidget* group = nullptr;
+    for (const FormRow& row : formRows) {
+        auto* widget = child<QWidget>(window, row.name);
+        if (isGroup(row)) {
+            group = widget;
+            continue;
+        }
+        if (qstrcmp(row.name, "buttonConnect") == 0)
+            group = window.centralWidget();
+        QCOMPARE(widget->parentWidget(), group);
+    }
+    QCOMPARE(group, window.centralWidget());
+}
+
+void TestMainWindowLayout::stacksItsGroups()
+{
+    const ProcedureRig rig;
+    QCOMPARE(topOf(rig, "groupInfo"), topOf(rig, "groupSetup"));
+    const QStringList stack = {"menuBar",     "groupInfo",     "groupInfo_2",
+                               "groupInfo_3", "buttonConnect", "statusBar"};
+    for (int i = 1; i < stack.size(); ++i)
+        QVERIFY2(topOf(rig, qPrintable(stack.at(i - 1))) < topOf(rig, qPrintable(stack.at(i))),
+                 qPrintable(stack.at(i)));
+    for (const char* name : {"buttonRead", "buttonWrite", "buttonPreset", "buttonStart"})
+        QCOMPARE(topOf(rig, name), topOf(rig, "buttonConnect"));
+    QCOMPARE(rig.window.statusBar(), rig.find<QStatusBar>("statusBar"));
+}
+
+void TestMainWindowLayout::setupFromTopToBottom()
+{
+    const ProcedureRig rig;
+    const auto* group = rig.find<QWidget>("groupSetup");
+    int lowest = -1;
+    for (const char* name : {"comboSampling", "spinSampling", "comboDelay", "spinDelay", "comboTemp",
+                             "spindTempMin", "checkLock"}) {
+        QVERIFY(group->isAncestorOf(rig.find<QWidget>(name)));
+        QVERIFY2(topOf(rig, name) > lowest, name);
+        lowest = topOf(rig, name);
+    }
+    for (const char* name : {"label_2", "label_4", "spindTempMax"})
+        QVERIFY2(areInOneRow(rig, name, "spindTempMin"), name);
+}
+
+void TestMainWindowLayout::trackingInOneRow()
+{
+    const ProcedureRig rig;
+    for (const char* name : {"label_28", "labelCountBarcode", "label_29", "comboType"})
+        QVERIFY2(areInOneRow(rig, name, "lineBarcode"), name);
+}
+
+void TestMainWindowLayout::tabOrder()
+{
+    ProcedureRig rig;
+    rig.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&rig.window));
+    rig.plugAndConnect();
+    const QStringList order = {"comboSampling", "comboDelay", "checkLock",   "lineSender",
+                               "lineRecipient", "lineInfo",   "lineBarcode", "comboType",
+                               "buttonConnect", "buttonRead", "buttonWrite", "buttonStart"};
+    rig.find<QWidget>("comboSampling")->setFocus();
+    QStringList reached;
+    for (int i = 0; i < order.size(); ++i) {
+        QVERIFY(rig.window.focusWidget());
+        reached << rig.window.focusWidget()->objectName();
+        QTest::keyClick(rig.window.focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(reached, order);
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowLayout::sizes()
+{
+    ProcedureRig rig;
+    QCOMPARE(rig.window.size(), QSize(850, 789));
+    QCOMPARE(rig.window.minimumSize(), QSize(760, 680));
+    rig.window.resize(100, 100);
+    QCOMPARE(rig.window.size(), QSize(760, 680));
+}
+
+void TestMainWindowLayout::iconFromWorkingDirectory()
+{
+    const OtherFolder folder;
+    QImage picture(32, 32, QImage::Format_ARGB32);
+    picture.fill(QColor(200, 30, 60));
+    QVERIFY(picture.save(QStringLiteral("logo.ico"), "ICO"));
+    const MainWindow window;
+    const QImage shown = window.windowIcon().pixmap(32, 32).toImage();
+    QCOMPARE(shown.size(), picture.size());
+    QCOMPARE(shown.pixelColor(16, 16), QColor(200, 30, 60));
+}
+
+void TestMainWindowLayout::noIconWithoutTheFile()
+{
+    const OtherFolder folder;
+    const MainWindow window;
+    QVERIFY(window.windowIcon().pixmap(32, 32).isNull());
+}
+
+// Only one platform has such a title bar; on the others the window itself forgets it.
+void TestMainWindowLayout::unifiedTitle()
+{
+    QVERIFY(formSets(QStringLiteral("unifiedTitleAndToolBarOnMac")));
+}
+
+void TestMainWindowLayout::hiddenWidgets()
+{
+    const ProcedureRig rig;
+    for (const FormRow& row : formRows) {
+        const bool hidden = std::any_of(std::begin(hiddenAtStart), std::end(hiddenAtStart),
+                                        [&row](const char* name) { return qstrcmp(name, row.name) == 0; });
+        QVERIFY2(rig.find<QWidget>(row.name)->isVisible() != hidden, row.name);
+    }
+}
+
+QTEST_MAIN(TestMainWindowLayout)
+#include "tst_mainwindow_layout.moc"

@@ -1,0 +1,348 @@
+// The window as a shell: first show, usable controls, keys, the clock, the help.
+
+#include "procedurerig.h"
+#include "support/testclock.h"
+#include "time/timekeeper.h"
+#include "windowstate.h"
+#include "windowwords.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QUrl>
+
+namespace {
+
+const QString plainTitle = QStringLiteral("Brumalogger Configuration Tool");
+const QString nothing = QStringLiteral(" - ");
+
+constexpr const char* clearedLabels[] = {
+    "labelDeviceName", "labelFirmwareVersion", "labelHardwareRevision", "labelDateTime",
+    "labelType",       "labelSerial"};
+constexpr const char* lines[] = {"lineSender", "lineRecipient", "lineInfo", "lineBarcode"};
+constexpr const char* combos[] = {"comboTemp", "comboSampling", "comboDelay", "comboType"};
+
+/// Stands in for the system's browser.
+class Browser : public QObject
+{
+    Q_OBJECT
+
+public:
+    Browser() { QDesktopServices::setUrlHandler(QStringLiteral("http"), this, "open"); }
+    ~Browser() override { QDesktopServices::unsetUrlHandler(QStringLiteral("http")); }
+    QList<QUrl> opened;
+
+public slots:
+    void open(const QUrl& url) { opened << url; }
+};
+
+/// A logger whose numbers are all custom values.
+LoggerModel customLogger()
+{
+    LoggerModel model = basicLogger();
+    model.settings().samplingTime = 420;
+    model.settings().startDelay = 420;
+    model.settings().tempMin = 2500;
+    model.settings().tempMax = 8500;
+    return model;
+}
+
+/// A logger that shows as the first row of every list.
+LoggerModel firstRowsLogger()
+{
+    LoggerModel model = basicLogger();
+    model.settings().samplingTime = 60;
+    model.settings().startDelay = 60;
+    model.settings().tempMin = 2000;
+    model.settings().tempMax = 8000;
+    return model;
+}
+
+/// A control and whether it can be used.
+struct Usable
+{
+    const char* name;
+    bool withoutDevice;
+    bool withDevice;
+};
+
+constexpr Usable usableControlRows[] = {
+    {"lineSender", false, true},    {"lineRecipient", false, true}, {"lineInfo", false, true},
+    {"lineBarcode", false, true},   {"comboTemp", false, true},     {"comboSampling", false, true},
+    {"comboDelay", false, true},    {"comboType", false, true},     {"checkLock", false, true},
+    {"buttonRead", false, true},    {"buttonWrite", false, true},   {"buttonAdvanced", false, true},
+    {"buttonStart", false, true},   {"actionSave", false, true},    {"actionLoad", false, true},
+    {"spinSampling", false, false}, {"spinDelay", false, false},    {"spindTempMin", false, false},
+    {"spindTempMax", false, false}, {"buttonPreset", false, false}, {"buttonConnect", true, true},
+    {"actionSettings", true, true}, {"actionWebHelp", true, true},  {"actionQuickstart", true, true},
+    {"actionAbout", true, true},
+};
+
+/// The controls that are not as their rows say, given the state that a row's member stands for.
+QStringList wrongControls(const WindowRig& rig, bool Usable::*state)
+{
+    QStringList wrong;
+    for (const Usable& row : usableControlRows) {
+        if (rig.find<QObject>(row.name)->property("enabled").toBool() != row.*state)
+            wrong << QLatin1String(row.name);
+    }
+    return wrong;
+}
+
+double valueOf(const WindowRig& rig, const char* spinName)
+{
+    return rig.find<QWidget>(spinName)->property("value").toDouble();
+}
+
+void activate(WindowRig& rig)
+{
+    rig.window.activateWindow();
+    if (!QTest::qWaitForWindowActive(&rig.window))
+        qFatal("the window was never active");
+}
+
+/// The figures on the clock; an hour that the computer's zone leaves out is as good as any.
+QDateTime shownTime(const WindowRig& rig)
+{
+    const QString text = rig.text("labelDateTime");
+    return QDateTime(QDate::fromString(text.mid(9), QStringLiteral("dd/MMM/yyyy")),
+                     QTime::fromString(text.left(8), QStringLiteral("hh:mm:ss")), Qt::UTC);
+}
+
+} // namespace
+
+class TestMainWindowShell : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void firstShowClearsThePanels();
+    void laterShowsDoNothing();
+    void disconnectClearsThePanels();
+    void disconnectClearsNumbers_data();
+    void disconnectClearsNumbers();
+    void usableControls();
+    void usableControlsDuringAProcedure_data();
+    void usableControlsDuringAProcedure();
+    void keysOfDisabledButtons_data();
+    void keysOfDisabledButtons();
+    void keysOfEnabledButtons();
+    void clockTicksWhileConnected();
+    void clockStopsWithDisconnect();
+    void onlineHelp();
+};
+
+void TestMainWindowShell::firstShowClearsThePanels()
+{
+    MainWindow window;
+    auto* line = window.findChild<QLineEdit*>(QStringLiteral("lineInfo"));
+    auto* combo = window.findChild<QComboBox*>(QStringLiteral("comboDelay"));
+    line->setText(QStringLiteral("early"));
+    combo->setCurrentIndex(3);
+    QCOMPARE(window.findChild<QLabel*>(QStringLiteral("labelType"))->text(), QStringLiteral("-"));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    for (const char* name : clearedLabels)
+        QCOMPARE(window.findChild<QLabel*>(QLatin1String(name))->text(), nothing);
+    QCOMPARE(line->text(), QString());
+    QCOMPARE(combo->currentIndex(), 0);
+    QVERIFY(!line->isEnabled());
+}
+
+void TestMainWindowShell::laterShowsDoNothing()
+{
+    ProcedureRig rig;
+    QCOMPARE(rig.title(), plainTitle);
+    rig.plugAndConnect();
+    const QStringList before = panels(rig) + setupNumbers(rig);
+    rig.window.hide();
+    rig.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&rig.window));
+    QCOMPARE(panels(rig) + setupNumbers(rig), before);
+    QCOMPARE(rig.text("labelSerial"), QStringLiteral("BL-0042"));
+    QVERIFY(rig.controlsEnabled());
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowShell::disconnectClearsThePanels()
+{
+    ProcedureRig rig;
+    rig.plugAndConnect();
+    rig.find<QLabel>("labelDateTime")->setStyleSheet(QStringLiteral("color: red"));
+    rig.find<QLabel>("labelLowBattery")->setText(QStringLiteral("low"));
+    const QStringList extras = {"labelTimeZone", "labelTimeZoneStatic", "labelLastReset",
+                                "labelLastResetStatic", "buttonToolTimeZone"};
+    for (const QString& name : extras)
+        rig.find<QWidget>(qPrintable(name))->show();
+
+    rig.press("buttonConnect");
+    for (const char* name : clearedLabels)
+        QCOMPARE(rig.text(name), nothing);
+    for (const QString& name : extras)
+        QVERIFY2(rig.find<QWidget>(qPrintable(name))->isHidden(), qPrintable(name));
+    QCOMPARE(rig.find<QLabel>("labelDateTime")->styleSheet(), QString());
+    QCOMPARE(rig.text("labelLowBattery"), QString());
+    for (const char* name : lines)
+        QCOMPARE(rig.text(name), QString());
+    for (const char* name : combos)
+        QCOMPARE(rig.find<QComboBox>(name)->currentIndex(), 0);
+    QVERIFY(rig.find<QCheckBox>("checkLock")->isChecked());
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowShell::disconnectClearsNumbers_data()
+{
+    QTest::addColumn<bool>("fromFirstRows");
+    QTest::addColumn<double>("tempMin");
+    QTest::addColumn<double>("tempMax");
+    QTest::newRow("lists that move to their first row fill them in") << false << 2.0 << 8.0;
+    QTest::newRow("lists that stood there leave them at zero") << true << 0.0 << 0.0;
+}
+
+void TestMainWindowShell::disconnectClearsNumbers()
+{
+    QFETCH(const bool, fromFirstRows);
+    ProcedureRig rig;
+    rig.plugAndConnect(fromFirstRows ? firstRowsLogger() : basicLogger());
+    rig.press("buttonConnect");
+    QCOMPARE(rig.find<QComboBox>("comboTemp")->currentIndex(), 0);
+    QTEST(valueOf(rig, "spindTempMin"), "tempMin");
+    QTEST(valueOf(rig, "spindTempMax"), "tempMax");
+    QCOMPARE(valueOf(rig, "spinSampling"), 1.0);
+    QCOMPARE(valueOf(rig, "spinDelay"), 1.0);
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowShell::usableControls()
+{
+    ProcedureRig rig;
+    QCOMPARE(wrongControls(rig, &Usable::withoutDevice), QStringList());
+    rig.plugAndConnect();
+    QCOMPARE(wrongControls(rig, &Usable::withDevice), QStringList());
+    rig.press("buttonConnect");
+    QCOMPARE(wrongControls(rig, &Usable::withoutDevice), QStringList());
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowShell::usableControlsDuringAProcedure_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<int>("commands");
+    QTest::newRow("read") << "buttonRead" << 14;
+    QTest::newRow("write") << "buttonWrite" << 10;
+}
+
+void TestMainWindowShell::usableControlsDuringAProcedure()
+{
+    QFETCH(const QString, button);
+    QFETCH(const int, commands);
+    ProcedureRig rig;
+    rig.plugAndConnect(customLogger());
+    QStringList wrong;
+    for (int command = 1; command <= commands; ++command)
+        rig.atCommand(command, [&] { wrong << wrongControls(rig, &Usable::withoutDevice); });
+    rig.press(qPrintable(button));
+    QCOMPARE(rig.wire().size(), commands);
+    QCOMPARE(wrong, QStringList());
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowShell::keysOfDisabledButtons_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Ctrl+R") << Qt::Key_R;
+    QTest::newRow("Ctrl+W") << Qt::Key_W;
+    QTest::newRow("Ctrl+A") << Qt::Key_A;
+    QTest::newRow("Ctrl+P") << Qt::Key_P;
+}
+
+void TestMainWindowShell::keysOfDisabledButtons()
+{
+    QFETCH(const Qt::Key, key);
+    ProcedureRig rig;
+    activate(rig);
+    rig.plug();
+    rig.pressKeys(key);
+    QCOMPARE(rig.wire(), QList<QByteArray>());
+    QCOMPARE(rig.status(), QString());
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowShell::keysOfEnabledButtons()
+{
+    ProcedureRig rig;
+    rig.plug();
+    const auto press = [&rig](Qt::Key key) {
+        activate(rig);
+        rig.logger->clearExchanges();
+        rig.pressKeys(key);
+        return rig.wire();
+    };
+    QCOMPARE(press(Qt::Key_K).size(), 15);
+    QCOMPARE(rig.text("buttonConnect"), QStringLiteral("Disconnect"));
+    QCOMPARE(press(Qt::Key_R).size(), 14);
+    QCOMPARE(rig.status(), QStringLiteral("Read successful"));
+    QCOMPARE(press(Qt::Key_W).value(0), QByteArray("St-0010000-0001000"));
+    QCOMPARE(rig.status(), QStringLiteral("Write successful"));
+    QCOMPARE(press(Qt::Key_P).size(), 0);
+    WindowWords::expectStartConfirm(rig.robot, QMessageBox::No);
+    QCOMPARE(press(Qt::Key_A).size(), 0);
+    QCOMPARE(press(Qt::Key_K).size(), 0);
+    QCOMPARE(rig.text("buttonConnect"), QStringLiteral("Connect"));
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowShell::clockTicksWhileConnected()
+{
+    ProcedureRig rig;
+    rig.plugAndConnect();
+    TestClock::reset(); // from here on the clock runs by itself
+    QString last = rig.text("labelDateTime");
+    QTRY_VERIFY(rig.text("labelDateTime") != last);
+    const QDateTime first = shownTime(rig);
+    QVERIFY(first.isValid());
+
+    QElapsedTimer elapsed;
+    elapsed.start();
+    for (int tick = 0; tick < 3; ++tick) {
+        last = rig.text("labelDateTime");
+        QTRY_VERIFY(rig.text("labelDateTime") != last);
+    }
+    const qint64 seconds = first.secsTo(shownTime(rig));
+    QVERIFY2(seconds >= 3 && seconds <= elapsed.elapsed() / 1000 + 2, qPrintable(QString::number(seconds)));
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowShell::clockStopsWithDisconnect()
+{
+    ProcedureRig rig;
+    rig.plugAndConnect();
+    TestClock::reset();
+    rig.press("buttonConnect");
+    const TimeKeeper another;
+    QSignalSpy ticks(&another, &TimeKeeper::sUpdate);
+    while (ticks.size() < 2)
+        QVERIFY(ticks.wait());
+    QCOMPARE(rig.text("labelDateTime"), nothing);
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowShell::onlineHelp()
+{
+    const ProcedureRig rig;
+    const Browser browser;
+    rig.find<QAction>("actionWebHelp")->trigger();
+    QCOMPARE(browser.opened.size(), 1);
+    QCOMPARE(browser.opened.first().scheme(), QStringLiteral("http"));
+    QCOMPARE(browser.opened.first().path(), QStringLiteral("/redir/guide/brumaloggerconftool"));
+    QVERIFY(!browser.opened.first().host().isEmpty());
+}
+
+QTEST_MAIN(TestMainWindowShell)
+#include "tst_mainwindow_shell.moc"

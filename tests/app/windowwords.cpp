@@ -1,0 +1,104 @@
+// The words of the window's boxes.
+
+#include "windowwords.h"
+
+void WindowWords::expectNoDevice(DialogRobot& robot)
+{
+    robot.expectWarning(
+        QStringLiteral("Notice"),
+        QStringLiteral(
+            "<p>No device found!<br>"
+            "Make sure the device is connected and try again.<br>"
+            "If your Brumalogger USB is already connected as a USB Thumb Drive, this software tool will "
+            "be <b>unable</b> to connect to it.</p>"));
+}
+
+void WindowWords::expectDisconnecting(DialogRobot& robot, QMessageBox::StandardButton answer)
+{
+    robot.expectQuestion(QStringLiteral("Disconnecting"),
+                         QStringLiteral("There are modifications that were not written to the device.\n"
+                                        "Do you really wish to disconnect?"),
+                         answer);
+}
+
+void WindowWords::expectExit(DialogRobot& robot, QMessageBox::StandardButton answer)
+{
+    robot.expectQuestion(QStringLiteral("Exit"),
+                         QStringLiteral("There are modifications that were not written to the device.\n"
+                                        "Do you really wish to exit?"),
+                         answer);
+}
+
+void WindowWords::expectReadQuestion(DialogRobot& robot, QMessageBox::StandardButton answer)
+{
+    robot.expectQuestion(QStringLiteral("Read from device"),
+                         QStringLiteral("Reading from the device now will erase your changes.\n"
+                                        "Do you wish to proceed?"),
+                         answer);
+}
+
+void WindowWords::expectReadFailed(DialogRobot& robot)
+{
+    robot.expectWarning(
+        QStringLiteral("Warning"),
+        QStringLiteral("<p>Read procedure failed.<br>"
+                       "Please retry the Read operation.<br>"
+                       "If the issue persists, select <b>Disable fast Read/Write</b> under the "
+                       "<b>Settings</b> menu.</p>"));
+}
+
+void WindowWords::expectConnectFailed(DialogRobot& robot)
+{
+    expectReadFailed(robot);
+    robot.expectWarning(
+        QStringLiteral("Notice"),
+        QStringLiteral("<p>Connected to device, but failed to read it correctly.<br>"
+                       "Please retry the Read operation.<br>"
+                       "If the issue persists, select <b>Disable fast Read/Write</b> under the "
+                       "<b>Settings</b> menu.</p>"));
+}
+
+void WindowWords::expectWriteFailed(DialogRobot& robot)
+{
+    robot.expectWarning(
+        QStringLiteral("Warning"),
+        QStringLiteral("<p>Write procedure failed.<br>"
+                       "Parameters on device may be in an undefined state.\n"
+                       "Executing the procedure again is recommended.\n"
+                       "If the issue persists, select <b>Disable fast Read/Write</b> under the "
+                       "<b>Settings</b> menu.</p>"));
+}
+
+void WindowWords::expectWriteCanceled(DialogRobot& robot)
+{
+    robot.expectWarning(QStringLiteral("Warning"),
+                        QStringLiteral("Write procedure canceled by user.\n"
+                                       "Parameters on device may be in an undefined state.\n"
+                                       "Executing the procedure again is recommended."));
+}
+
+void WindowWords::expectStartModified(DialogRobot& robot, QMessageBox::StandardButton answer)
+{
+    robot.expectQuestion(QStringLiteral("Starting logger"),
+                         QStringLiteral("There are modifications that were not written to the device.\n"
+                                        "Do you really wish to start the device?"),
+                         answer);
+}
+
+void WindowWords::expectStartConfirm(DialogRobot& robot, QMessageBox::StandardButton answer)
+{
+    robot.expectQuestion(QStringLiteral("Confirm"),
+                         QStringLiteral("Do you wish to start the device?\nThis operation cannot be undone."),
+                         answer);
+}
+
+void WindowWords::expectStartDisabled(DialogRobot& robot)
+{
+    robot.expectWarning(QStringLiteral("Software START is disabled"),
+                        QStringLiteral("Software START is disabled on this logger."));
+}
+
+void WindowWords::expectStartFailed(DialogRobot& robot)
+{
+    robot.expectInformation(QStringLiteral("Error"), QStringLiteral("Failed to start the device"));
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "support/dialogrobot.h"
+
+/// The boxes of the device procedures, letter for letter, as things that a robot can be told to expect.
+namespace WindowWords {
+
+constexpr auto Yes = QMessageBox::Yes;
+constexpr auto No = QMessageBox::No;
+
+void expectNoDevice(DialogRobot& robot);
+void expectDisconnecting(DialogRobot& robot, QMessageBox::StandardButton answer);
+void expectExit(DialogRobot& robot, QMessageBox::StandardButton answer);
+
+void expectReadQuestion(DialogRobot& robot, QMessageBox::StandardButton answer);
+void expectReadFailed(DialogRobot& robot);
+/// What a connect says when its read has failed: the read's own box and that of the connect.
+void expectConnectFailed(DialogRobot& robot);
+
+void expectWriteFailed(DialogRobot& robot);
+void expectWriteCanceled(DialogRobot& robot);
+
+void expectStartModified(DialogRobot& robot, QMessageBox::StandardButton answer);
+void expectStartConfirm(DialogRobot& robot, QMessageBox::StandardButton answer);
+void expectStartDisabled(DialogRobot& robot);
+void expectStartFailed(DialogRobot& robot);
+
+} // namespace WindowWords
