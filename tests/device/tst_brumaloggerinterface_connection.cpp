@@ -242,12 +242,13 @@ void TestBrumaloggerInterfaceConnection::replugging()
 
 void TestBrumaloggerInterfaceConnection::deviceClockForTheLog()
 {
+    const LocalZone zone("EET-2");
     DeviceRig rig;
-    rig.reply("1700000000");
+    rig.reply("1704164645");
     QVERIFY(rig.link.lGetDateTime(nullptr));
     const LogRecorder log;
     QVERIFY(QMetaObject::invokeMethod(&rig.link, "plOnTimeUpdate"));
-    QCOMPARE(log.lines(), QStringList({QStringLiteral("debug: \"14/11/2023 22:13:20\"")}));
+    QCOMPARE(log.lines(), QStringList({QStringLiteral("debug: \"02/01/2024 03:04:05\"")}));
 }
 
 QTEST_MAIN(TestBrumaloggerInterfaceConnection)
