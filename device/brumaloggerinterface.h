@@ -47,8 +47,6 @@ public:
     int lWaitTime() const { return waitTime; }
     /// Spins the event loop for @p msecs.
     void lWait(int msecs);
-    /// True while a reply wait or lWait() spins the event loop: whoever sees it was called from within one.
-    bool lIsWaiting() const { return waiting; }
 
     // Parameters. Out parameters may be null unless the operation says otherwise.
 
@@ -207,5 +205,4 @@ private:
     TimeKeeper deviceClock;
     int waitTime;
     bool fastMode = true;
-    bool waiting = false;
 };

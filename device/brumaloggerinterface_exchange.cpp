@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QDebug>
-#include <QScopedValueRollback>
 #include <QSocketNotifier>
 #include <QTime>
 
@@ -46,7 +45,6 @@ void BrumaloggerInterface::lSetFastMode(bool fast)
 // ends the wait at once.
 void BrumaloggerInterface::lWait(int msecs)
 {
-    const QScopedValueRollback<bool> guard(waiting, true);
     const QTime deadline = QTime::currentTime().addMSecs(msecs);
     while (QTime::currentTime() < deadline)
         QCoreApplication::processEvents(QEventLoop::AllEvents, spinSlice);

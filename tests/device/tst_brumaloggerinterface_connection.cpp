@@ -78,7 +78,6 @@ void TestBrumaloggerInterfaceConnection::newLinkIsClosed()
 {
     const BrumaloggerInterface link;
     QVERIFY(!link.lIsConnected());
-    QVERIFY(!link.lIsWaiting());
     const QList<QSerialPort*> ports = link.findChildren<QSerialPort*>();
     QCOMPARE(ports.size(), 1);
     QVERIFY(!ports.constFirst()->isOpen());

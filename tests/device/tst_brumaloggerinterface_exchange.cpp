@@ -46,8 +46,6 @@ private slots:
     void midnightEndsTheWaitAtOnce();
     void waitAfterMidnightIsWhole();
     void eventLoopRunsDuringTheWait();
-    void waitingIsToldOnlyDuringAWait();
-    void waitingIsToldUntilTheOuterWaitEnds();
 };
 
 void TestBrumaloggerInterfaceExchange::commandGoesOutBare_data()
@@ -228,35 +226,6 @@ void TestBrumaloggerInterfaceExchange::eventLoopRunsDuringTheWait()
     QVERIFY(rig.link.lGetSerial(nullptr));
     QVERIFY(posted);
     QVERIFY(ticks > 1);
-}
-
-void TestBrumaloggerInterfaceExchange::waitingIsToldOnlyDuringAWait()
-{
-    DeviceRig rig;
-    QList<bool> told;
-    connect(rig.logger, &SimulatedPort::sCommandReceived, this,
-            [&rig, &told] { told << rig.link.lIsWaiting(); });
-    QVERIFY(!rig.link.lIsWaiting());
-    QVERIFY(rig.link.lSendCommandK());
-    QVERIFY(!rig.link.lIsWaiting());
-
-    QTimer::singleShot(0, this, [&rig, &told] { told << rig.link.lIsWaiting(); });
-    rig.link.lWait(fastWait);
-    QVERIFY(!rig.link.lIsWaiting());
-    QCOMPARE(told, QList<bool>({true, true}));
-}
-
-void TestBrumaloggerInterfaceExchange::waitingIsToldUntilTheOuterWaitEnds()
-{
-    DeviceRig rig;
-    bool toldAfterInner = false;
-    QTimer::singleShot(0, this, [&rig, &toldAfterInner] {
-        rig.link.lWait(1);
-        toldAfterInner = rig.link.lIsWaiting();
-    });
-    rig.link.lWait(fastWait);
-    QVERIFY(toldAfterInner);
-    QVERIFY(!rig.link.lIsWaiting());
 }
 
 QTEST_MAIN(TestBrumaloggerInterfaceExchange)
