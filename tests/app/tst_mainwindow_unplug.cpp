@@ -1,5 +1,4 @@
-// The plug is pulled in the middle of a procedure, at every single command; then another logger is plugged
-// in.
+// The plug is pulled in the middle of a procedure, at every single command; then comes another logger.
 
 #include "procedurerig.h"
 #include "windowstate.h"
@@ -12,8 +11,7 @@ using namespace WindowWords;
 
 namespace {
 
-/// Pulls the plug when the logger has received its n-th command from now, and keeps what it has received by
-/// then.
+/// Pulls the plug at the n-th command from now; @p wire is all that the logger has received.
 void pullAt(ProcedureRig& rig, int command, QList<QByteArray>* wire)
 {
     rig.atCommand(command, [&rig, wire] {

@@ -2,6 +2,8 @@
 
 #include "support/testclock.h"
 
+#include <QDateTime>
+
 #include <algorithm>
 #include <ctime>
 #include <sys/time.h>
@@ -60,6 +62,7 @@ void TestClock::ignoreStalls()
 {
     theClock().lastReading = realMicros();
     theClock().stallsIgnored = true;
+    set(QDateTime(QDate::currentDate(), QTime(12, 0)).toMSecsSinceEpoch());
 }
 
 void TestClock::reset()
