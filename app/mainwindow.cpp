@@ -121,6 +121,7 @@ void MainWindow::plSetUpButtons()
 void MainWindow::showEvent(QShowEvent* event)
 {
     QMainWindow::showEvent(event);
+    closed = false;
     if (shownBefore)
         return;
     shownBefore = true;
@@ -136,6 +137,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         return;
     }
     keepConnecting = false; // a connect under way ends without a word
+    closed = true;
     device->lDisconnect();
     event->accept();
 }
@@ -180,12 +182,12 @@ QMessageBox::StandardButton MainWindow::plAsk(const QString& title, const QStrin
 
 void MainWindow::plWarn(const QString& title, const QString& text)
 {
-    if (isVisible())
+    if (!closed)
         QMessageBox::warning(this, title, text);
 }
 
 void MainWindow::plInform(const QString& title, const QString& text)
 {
-    if (isVisible())
+    if (!closed)
         QMessageBox::information(this, title, text);
 }

@@ -165,4 +165,5 @@ private:
     bool procedureRuns =
         false; ///< connect, read, write or start; a click that arrives meanwhile is not obeyed
     bool shownBefore = false;
+    bool closed = false; ///< a procedure may still be under way then
 };

@@ -43,8 +43,8 @@ bool MainWindow::plRead()
     }
     device->lWait(device->lWaitTime());
     const bool identified = device->lGetIdentification(nullptr, nullptr, nullptr);
-    if (!device->lIsConnected())
-        return false; // the window was closed meanwhile
+    if (closed)
+        return false;
     ui->statusBar->showMessage(tr("Reading from device on %1").arg(device->lPortName()));
     ui->labelDateTime->setStyleSheet(QString());
 
