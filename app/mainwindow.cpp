@@ -136,7 +136,6 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
-    keepConnecting = false; // a connect under way ends without a word
     closed = true;
     device->lDisconnect();
     event->accept();

@@ -24,9 +24,9 @@ class MainWindow;
 
 /// The program's only window: what the operator sees of a logger, and the procedures that talk to it.
 ///
-/// Owns every long-lived object. Each procedure disables the controls first, since every exchange with the
-/// device spins the event loop and anything can arrive meanwhile. One class over several sources, one purpose
-/// each.
+/// Owns every long-lived object. Every exchange with the device spins the event loop and anything can arrive
+/// meanwhile: read and write disable the controls first, and one procedure keeps all others out. One class
+/// over several sources, one purpose each.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -83,6 +83,7 @@ private:
 
     static constexpr int maxReportTextLength = 60;
     static constexpr int maxBarcodeLength = 10;
+    static constexpr int secondsPerMinute = 60;
     static constexpr int shipmentTypeSlot = 3; ///< holds a code of shipmentTypes
     static const TextSlot textSlots[4];        ///< in the order in which they are read and written
 
@@ -93,7 +94,7 @@ private:
     void plDisableControls(bool disabled);
     /// A question with Yes and No.
     QMessageBox::StandardButton plAsk(const QString& title, const QString& text);
-    /// A warning with Ok. A window that was closed in the middle of a procedure says nothing more.
+    /// A warning with Ok. A closed window says nothing more, whatever is still under way in it.
     void plWarn(const QString& title, const QString& text);
     /// The same with a milder icon.
     void plInform(const QString& title, const QString& text);
@@ -124,6 +125,8 @@ private:
     void plLeaveDevice();
     void plShowConnectButton();
     void plShowDisconnectButton();
+    /// The key goes into %1 of @p toolTip.
+    void plSetConnectButton(const QString& text, const QString& icon, const QString& toolTip);
 
     // mainwindow_read.cpp
     bool plRead();
@@ -162,8 +165,8 @@ private:
     QList<QPair<float, float>> tempRanges;
     QList<int> sampleTimes;
     bool modified = false;
-    bool procedureRuns =
-        false; ///< connect, read, write or start; a click that arrives meanwhile is not obeyed
+    /// Connect, read, write or start; a click that arrives meanwhile is not obeyed.
+    bool procedureRuns = false;
     bool shownBefore = false;
     bool closed = false; ///< a procedure may still be under way then
 };

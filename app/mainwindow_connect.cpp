@@ -71,16 +71,18 @@ void MainWindow::plLeaveDevice()
 
 void MainWindow::plShowConnectButton()
 {
-    ui->buttonConnect->setText(tr("Connect"));
-    ui->buttonConnect->setIcon(
-        buttonIcon(QStringLiteral(":/icon_connect.png"), ui->buttonConnect->iconSize()));
-    ui->buttonConnect->setToolTip(tr("Connect to device (%1)").arg(connectKeyText));
+    plSetConnectButton(tr("Connect"), QStringLiteral(":/icon_connect.png"), tr("Connect to device (%1)"));
 }
 
 void MainWindow::plShowDisconnectButton()
 {
-    ui->buttonConnect->setText(tr("Disconnect"));
-    ui->buttonConnect->setIcon(
-        buttonIcon(QStringLiteral(":/icon_disconnect.png"), ui->buttonConnect->iconSize()));
-    ui->buttonConnect->setToolTip(tr("Disconnect from device (%1)").arg(connectKeyText));
+    plSetConnectButton(tr("Disconnect"), QStringLiteral(":/icon_disconnect.png"),
+                       tr("Disconnect from device (%1)"));
+}
+
+void MainWindow::plSetConnectButton(const QString& text, const QString& icon, const QString& toolTip)
+{
+    ui->buttonConnect->setText(text);
+    ui->buttonConnect->setIcon(buttonIcon(icon, ui->buttonConnect->iconSize()));
+    ui->buttonConnect->setToolTip(toolTip.arg(connectKeyText));
 }

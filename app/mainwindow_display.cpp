@@ -13,9 +13,12 @@ void MainWindow::plUpdateDateTime()
     ui->labelDateTime->setText(timeKeeper.timeUtc().toString(dateTimeDisplayFormat));
 }
 
-// The spin boxes go to 0 before the lists: a list that stood elsewhere puts its first row into them.
+// The spin boxes go to 0 before the lists: a list that stood elsewhere puts its first row into them. On the
+// way one of them can lose the focus, which is no editing that the range's rule has to look at.
 void MainWindow::plClearDeviceInfo()
 {
+    const QSignalBlocker minimum(ui->spindTempMin);
+    const QSignalBlocker maximum(ui->spindTempMax);
     for (QLabel* label : {ui->labelDeviceName, ui->labelFirmwareVersion, ui->labelHardwareRevision,
                           ui->labelDateTime, ui->labelType, ui->labelSerial})
         label->setText(QStringLiteral(" - "));

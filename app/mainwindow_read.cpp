@@ -75,11 +75,8 @@ StepResult MainWindow::plReadSteps(StepProgress& progress)
         return result;
     plSetShipmentType(shipmentType);
 
-    if (!device->lIsExtendedFirmware()) {
-        const int next = firstTextValue + textsRead;
-        for (int value = next; value < next + spareValues; ++value)
-            progress.setValue(value);
-    }
+    if (!device->lIsExtendedFirmware())
+        progress.passThrough(firstTextValue + textsRead, spareValues);
     return StepResult::Done;
 }
 

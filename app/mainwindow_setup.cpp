@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr int secondsPerMinute = 60;
 constexpr int shortestMinutes = 1;
 constexpr int longestMinutes = 960;
 constexpr double smallestSpan = 1.0;

@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr int secondsPerMinute = 60;
 constexpr int synchronisedValue = 1;
 constexpr int firstParameterValue = 2;
 constexpr int firstTextValue = 5;
@@ -83,11 +82,8 @@ StepResult MainWindow::plWriteClosing(StepProgress& progress, int firstValue)
         {[&] { return device->lSendCommandK(); }},
     };
     const StepResult result = progress.walk(steps, firstValue);
-    if (result == StepResult::Done && !device->lIsExtendedFirmware()) {
-        const int next = firstValue + static_cast<int>(steps.size());
-        for (int value = next; value < next + spareValues; ++value)
-            progress.setValue(value);
-    }
+    if (result == StepResult::Done && !device->lIsExtendedFirmware())
+        progress.passThrough(firstValue + static_cast<int>(steps.size()), spareValues);
     return result;
 }
 

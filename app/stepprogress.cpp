@@ -40,6 +40,12 @@ StepResult StepProgress::walk(const std::vector<Step>& steps, int firstValue)
     return StepResult::Done;
 }
 
+void StepProgress::passThrough(int firstValue, int count)
+{
+    for (int value = firstValue; value < firstValue + count; ++value)
+        setValue(value);
+}
+
 void StepProgress::finish()
 {
     dialog.setValue(lastValue);

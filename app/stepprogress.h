@@ -30,6 +30,8 @@ public:
     [[nodiscard]] StepResult walk(const std::vector<Step>& steps, int firstValue);
 
     void setValue(int value) { dialog.setValue(value); }
+    /// The bar shows @p count values one after the other, from @p firstValue on.
+    void passThrough(int firstValue, int count);
     bool wasCanceled() const { return dialog.wasCanceled(); }
     /// Fills the bar and closes the dialog. Closing counts as cancelling, so ask wasCanceled() before.
     void finish();

@@ -55,6 +55,9 @@ private slots:
     void validatesTypedRange();
     void validatesWhenTheBoxIsLeft();
     void validRangeThatTheLoggerCannotTake();
+    void disconnectingWithTheFocusInTheRange();
+    void closingWithAHalfTypedRange();
+    void hiddenWindowStillSpeaks();
 };
 
 void TestMainWindowRange::choosesRange_data()
@@ -204,6 +207,41 @@ void TestMainWindowRange::validRangeThatTheLoggerCannotTake()
     WindowWords::expectWriteFailed(rig.robot);
     rig.press("buttonWrite");
     QCOMPARE(rig.wire(), QList<QByteArray>());
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowRange::disconnectingWithTheFocusInTheRange()
+{
+    ProcedureRig rig;
+    rig.plugAndConnect(loggerWithRange(2500, 8000));
+    rig.activate();
+    rig.find<QDoubleSpinBox>("spindTempMax")->setFocus();
+    QVERIFY(rig.find<QDoubleSpinBox>("spindTempMax")->hasFocus());
+    rig.press("buttonConnect");
+    QCOMPARE(rig.status(), QStringLiteral("Disconnected from %1").arg(rig.logger->portName()));
+    QCOMPARE(Panel(rig).range(), QStringLiteral("2 to 8"));
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowRange::closingWithAHalfTypedRange()
+{
+    ProcedureRig rig;
+    rig.plugAndConnect(loggerWithRange(2500, 8000));
+    rig.activate();
+    auto* maximum = rig.find<QDoubleSpinBox>("spindTempMax");
+    maximum->setFocus();
+    maximum->selectAll();
+    QTest::keyClicks(maximum, QStringLiteral("1"));
+    QVERIFY(rig.window.close());
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowRange::hiddenWindowStillSpeaks()
+{
+    ProcedureRig rig;
+    rig.window.hide();
+    WindowWords::expectNoDevice(rig.robot);
+    rig.press("buttonConnect");
     QCOMPARE(rig.robot.problems(), QString());
 }
 
