@@ -217,7 +217,7 @@ void TestMainWindowRange::disconnectingWithTheFocusInTheRange()
     rig.activate();
     rig.find<QDoubleSpinBox>("spindTempMax")->setFocus();
     QVERIFY(rig.find<QDoubleSpinBox>("spindTempMax")->hasFocus());
-    rig.press("buttonConnect");
+    rig.pressKeys(Qt::Key_K);
     QCOMPARE(rig.status(), QStringLiteral("Disconnected from %1").arg(rig.logger->portName()));
     QCOMPARE(Panel(rig).range(), QStringLiteral("2 to 8"));
     QCOMPARE(rig.robot.problems(), QString());
