@@ -1,0 +1,183 @@
+// The scripts that give tests a network: what they leave alone, what they say, and that nothing of them stays
+// behind.
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+
+namespace {
+
+const QString privateNetwork = QStringLiteral(NETWORK_SCRIPTS "/in-private-network");
+const QString timeServers = QStringLiteral(NETWORK_SCRIPTS "/with-time-servers");
+
+QByteArray contents(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// True for a process that still runs; one that has ended but was not yet asked for its end does not.
+bool isRunning(qint64 process)
+{
+    const auto stat = contents(QStringLiteral("/proc/%1/stat").arg(process));
+    return !stat.isEmpty() && stat.mid(stat.lastIndexOf(')') + 2, 1) != "Z";
+}
+
+} // namespace
+
+class tst_NetworkScripts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+
+    void passesOnTheCommandAndItsResult();
+    void leavesTheComputerAlone();
+    void canBeNested();
+    void saysThatThereAreNoNamespaces();
+    void saysThatTheNetworkIsMissing();
+    void saysThatAServerCannotStart();
+    void choosesServers_data();
+    void choosesServers();
+    void serversEndWithTheCommand_data();
+    void serversEndWithTheCommand();
+
+private:
+    void run(const QStringList& command);
+
+    QProcess process;
+};
+
+void tst_NetworkScripts::cleanup()
+{
+    process.kill();
+    process.waitForFinished();
+    process.setProcessEnvironment({});
+}
+
+void tst_NetworkScripts::run(const QStringList& command)
+{
+    process.start(command.first(), command.mid(1));
+    QVERIFY2(process.waitForFinished(), qPrintable(process.errorString()));
+}
+
+void tst_NetworkScripts::passesOnTheCommandAndItsResult()
+{
+    run({privateNetwork, timeServers, "sh", "-c", "printf '%s.' \"$@\"; exit 42", "sh", "--only", "two words",
+         ""});
+    QCOMPARE(process.readAllStandardError(), QByteArray());
+    QCOMPARE(process.readAllStandardOutput(), QByteArray("--only.two words.."));
+    QCOMPARE(process.exitCode(), 42);
+}
+
+void tst_NetworkScripts::leavesTheComputerAlone()
+{
+    const QStringList paths{QStringLiteral("/proc/self/mountinfo"), QStringLiteral("/etc/hosts"),
+                            QStringLiteral("/etc/nsswitch.conf")};
+    QVector<QByteArray> before;
+    for (const auto& path : paths)
+        before += contents(path);
+    process.start(privateNetwork, {timeServers, "sh", "-c", "echo && read line"});
+    QVERIFY(process.waitForReadyRead());
+    for (int i = 0; i < paths.size(); ++i)
+        QCOMPARE(contents(paths.at(i)), before.at(i));
+    process.write("\n");
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 0);
+}
+
+void tst_NetworkScripts::canBeNested()
+{
+    run({privateNetwork, timeServers, privateNetwork, timeServers, "true"});
+    QCOMPARE(process.readAllStandardError(), QByteArray());
+    QCOMPARE(process.exitCode(), 0);
+}
+
+void tst_NetworkScripts::saysThatThereAreNoNamespaces()
+{
+    QTemporaryDir folder;
+    QVERIFY(QFile::link(QStringLiteral("/bin/false"), folder.filePath("unshare")));
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("PATH", folder.path() + ':' + environment.value("PATH"));
+    process.setProcessEnvironment(environment);
+    run({privateNetwork, "true"});
+    QCOMPARE(process.exitCode(), 1);
+    QCOMPARE(
+        process.readAllStandardError(),
+        QByteArray(
+            "in-private-network: this computer allows neither network namespaces nor user namespaces\n"));
+}
+
+void tst_NetworkScripts::saysThatTheNetworkIsMissing()
+{
+    run({timeServers, "true"});
+    QCOMPARE(process.exitCode(), 1);
+    QCOMPARE(
+        process.readAllStandardError(),
+        QByteArray("with-time-servers: this is not the private network; run it by in-private-network\n"));
+}
+
+void tst_NetworkScripts::saysThatAServerCannotStart()
+{
+    run({privateNetwork, timeServers, "--only", "nowhere", "true"});
+    QCOMPARE(process.exitCode(), 1);
+    QVERIFY(process.readAllStandardError().endsWith("with-time-servers: chronyd ended at nowhere\n"));
+}
+
+void tst_NetworkScripts::choosesServers_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QList<int>>("servers");
+    QTest::newRow("all") << QStringList() << QList<int>{1, 2, 3, 4, 5, 6, 7};
+    QTest::newRow("first three") << QStringList{"--servers", "3"} << QList<int>{1, 2, 3};
+    QTest::newRow("none") << QStringList{"--servers", "0"} << QList<int>{};
+    QTest::newRow("one") << QStringList{"--only", "127.1.0.2"} << QList<int>{2};
+    QTest::newRow("two") << QStringList{"--only", "127.1.0.7", "--only", "127.1.0.3"} << QList<int>{3, 7};
+}
+
+void tst_NetworkScripts::choosesServers()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QList<int>, servers);
+    run(QStringList{privateNetwork, timeServers} + options + QStringList{"cat", "/proc/net/udp"});
+    QCOMPARE(process.exitCode(), 0);
+    const auto sockets = process.readAllStandardOutput();
+    QCOMPARE(sockets.count(":007B "), servers.size());
+    for (const int server : servers)
+        QVERIFY(sockets.contains("0" + QByteArray::number(server) + "00017F:007B"));
+}
+
+void tst_NetworkScripts::serversEndWithTheCommand_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("killed") << SIGKILL;
+    QTest::newRow("terminated") << SIGTERM;
+    QTest::newRow("of itself") << 0;
+}
+
+void tst_NetworkScripts::serversEndWithTheCommand()
+{
+    QFETCH(int, signal);
+    process.start(privateNetwork, {timeServers, "sh", "-c",
+                                   "read servers </proc/$$/task/$$/children; echo $servers; read line"});
+    QVERIFY(process.waitForReadyRead());
+    const auto servers = process.readAll().simplified().split(' ');
+    QCOMPARE(servers.size(), 7);
+    for (const auto& server : servers)
+        QVERIFY(isRunning(server.toLongLong()));
+
+    if (signal != 0)
+        QCOMPARE(kill(static_cast<pid_t>(process.processId()), signal), 0);
+    else
+        process.write("\n");
+    QVERIFY(process.waitForFinished());
+    for (const auto& server : servers)
+        QTRY_VERIFY(!isRunning(server.toLongLong()));
+}
+
+QTEST_GUILESS_MAIN(tst_NetworkScripts)
+#include "tst_networkscripts.moc"
