@@ -16,7 +16,7 @@ const QByteArray transmitted("\x11\x22\x33\x44\x55\x66\x77\x88", 8);
 
 QByteArray clientRequest()
 {
-    return "\x23" + QByteArray(39, '\0') + transmitted;
+    return QByteArray(1, '\x23') + QByteArray(39, '\0') + transmitted;
 }
 
 QDateTime someMoment()

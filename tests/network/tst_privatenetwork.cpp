@@ -31,6 +31,11 @@ QStringList addressesOf(const QString& name)
     return addresses;
 }
 
+qint64 secondsAt(const QByteArray& bytes, int offset)
+{
+    return qFromBigEndian<quint32>(bytes.constData() + offset);
+}
+
 } // namespace
 
 class tst_PrivateNetwork : public QObject
@@ -139,7 +144,8 @@ void tst_PrivateNetwork::timeServersAnswer()
     QUdpSocket client;
     QVERIFY(client.bind(QHostAddress(QHostAddress::LocalHost)));
     QSignalSpy readyRead(&client, &QUdpSocket::readyRead);
-    QCOMPARE(client.writeDatagram("\x23" + QByteArray(47, '\0'), QHostAddress(address), 123), qint64(48));
+    QCOMPARE(client.writeDatagram(QByteArray(1, '\x23') + QByteArray(47, '\0'), QHostAddress(address), 123),
+             qint64(48));
     QVERIFY(readyRead.wait());
 
     const auto reply = client.receiveDatagram();
@@ -148,6 +154,12 @@ void tst_PrivateNetwork::timeServersAnswer()
     QCOMPARE(reply.data().size(), 48);
     QCOMPARE(reply.data().at(0), '\x24'); // clock set, version 4, server
     QCOMPARE(reply.data().at(1), '\x01');
+
+    // chronyd renews its reference time once in 64 seconds, and puts it a second or two into the past.
+    const qint64 reference = secondsAt(reply.data(), 16);
+    const qint64 transmit = secondsAt(reply.data(), 40);
+    QVERIFY(transmit >= reference);
+    QVERIFY(transmit - reference <= 70);
 }
 
 QTEST_GUILESS_MAIN(tst_PrivateNetwork)
