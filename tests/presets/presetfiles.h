@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMap>
+#include <QString>
+#include <QTemporaryDir>
+
+class PresetStorage;
+
+/// Files for a PresetStorage to read, made without its code, and a look into the files that it wrote.
+namespace PresetFiles {
+
+using Table = QMap<QString, QString>;
+
+/// What the digest line of a file with @p body holds.
+QString digestText(const QByteArray& body);
+
+/// A file of version 2.0 with any body and digest.
+QByteArray enciphered(const QByteArray& body, const QString& digest);
+/// The same with the right digest.
+QByteArray enciphered(const QByteArray& body);
+
+/// The plain lines of a file of version 2.0: version, body and digest; empty if the file is not one.
+QByteArrayList deciphered(const QByteArray& file);
+/// The entries of a body that has no "=" and no line feed in a key, and no line feed in a value.
+Table entries(const QByteArray& body);
+
+/// Everything in @p storage, under the same conditions.
+Table contents(PresetStorage& storage);
+void fill(PresetStorage* storage, const Table& table);
+
+QByteArray read(const QString& path);
+bool write(const QString& path, const QByteArray& bytes);
+
+/// A folder of its own for each test.
+class Folder
+{
+public:
+    QString path(const QString& name) const { return folder.filePath(name); }
+    /// A file with @p bytes.
+    QString file(const QByteArray& bytes) const;
+
+private:
+    QTemporaryDir folder;
+};
+
+} // namespace PresetFiles
