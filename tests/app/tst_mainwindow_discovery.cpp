@@ -9,6 +9,35 @@
 
 using namespace WindowWords;
 
+namespace {
+
+void addPortColumns()
+{
+    QTest::addColumn<QString>("manufacturer");
+    QTest::addColumn<QString>("description");
+    QTest::addColumn<int>("vendor");
+    QTest::addColumn<int>("product");
+}
+
+UsbIdentity portOfRow()
+{
+    QFETCH(const QString, manufacturer);
+    QFETCH(const QString, description);
+    QFETCH(const int, vendor);
+    QFETCH(const int, product);
+    return {manufacturer, description, vendor, product};
+}
+
+/// Plugs in a logger that identifies itself at first by the reply of the test's row.
+void plugLoggerOfRow(ProcedureRig& rig)
+{
+    QFETCH(const QByteArray, reply);
+    rig.plug();
+    rig.disturb(1, Fault::Kind::Reply, reply);
+}
+
+} // namespace
+
 class TestMainWindowDiscovery : public QObject
 {
     Q_OBJECT
@@ -32,10 +61,7 @@ private slots:
 
 void TestMainWindowDiscovery::findsLoggerBy_data()
 {
-    QTest::addColumn<QString>("manufacturer");
-    QTest::addColumn<QString>("description");
-    QTest::addColumn<int>("vendor");
-    QTest::addColumn<int>("product");
+    addPortColumns();
     QTest::newRow("manufacturer alone") << "Polar Ridge Works" << QString() << -1 << -1;
     QTest::newRow("description alone") << QString() << "Brumalogger USB" << -1 << -1;
     QTest::newRow("identifiers alone") << QString() << QString() << 0x03EB << 0x8015;
@@ -49,12 +75,8 @@ void TestMainWindowDiscovery::findsLoggerBy_data()
 
 void TestMainWindowDiscovery::findsLoggerBy()
 {
-    QFETCH(const QString, manufacturer);
-    QFETCH(const QString, description);
-    QFETCH(const int, vendor);
-    QFETCH(const int, product);
     ProcedureRig rig;
-    rig.plug(basicLogger(), {manufacturer, description, vendor, product});
+    rig.plug(basicLogger(), portOfRow());
     rig.press("buttonConnect");
     QCOMPARE(rig.wire(), connectCommands());
     QCOMPARE(differences(rig, connected()), QString());
@@ -62,10 +84,7 @@ void TestMainWindowDiscovery::findsLoggerBy()
 
 void TestMainWindowDiscovery::passesOverOtherPorts_data()
 {
-    QTest::addColumn<QString>("manufacturer");
-    QTest::addColumn<QString>("description");
-    QTest::addColumn<int>("vendor");
-    QTest::addColumn<int>("product");
+    addPortColumns();
     QTest::newRow("nothing told") << QString() << QString() << -1 << -1;
     QTest::newRow("another device") << "Acme"
                                     << "Serial Adapter" << 0x1234 << 0x5678;
@@ -83,12 +102,8 @@ void TestMainWindowDiscovery::passesOverOtherPorts_data()
 
 void TestMainWindowDiscovery::passesOverOtherPorts()
 {
-    QFETCH(const QString, manufacturer);
-    QFETCH(const QString, description);
-    QFETCH(const int, vendor);
-    QFETCH(const int, product);
     ProcedureRig rig;
-    rig.plug(basicLogger(), {manufacturer, description, vendor, product});
+    rig.plug(basicLogger(), portOfRow());
     expectNoDevice(rig.robot);
     rig.press("buttonConnect");
     QCOMPARE(rig.wire(), QList<QByteArray>());
@@ -154,10 +169,8 @@ void TestMainWindowDiscovery::acceptsIdentity_data()
 
 void TestMainWindowDiscovery::acceptsIdentity()
 {
-    QFETCH(const QByteArray, reply);
     ProcedureRig rig;
-    rig.plug();
-    rig.disturb(1, Fault::Kind::Reply, reply);
+    plugLoggerOfRow(rig);
     rig.press("buttonConnect");
     QCOMPARE(rig.wire(), connectCommands());
     QCOMPARE(panels(rig), panelsOfBasicLogger());
@@ -180,10 +193,8 @@ void TestMainWindowDiscovery::refusesIdentity_data()
 
 void TestMainWindowDiscovery::refusesIdentity()
 {
-    QFETCH(const QByteArray, reply);
     ProcedureRig rig;
-    rig.plug();
-    rig.disturb(1, Fault::Kind::Reply, reply);
+    plugLoggerOfRow(rig);
     expectNoDevice(rig.robot);
     rig.press("buttonConnect");
     QCOMPARE(rig.wire(), QList<QByteArray>({"i"}));
