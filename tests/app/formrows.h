@@ -71,3 +71,7 @@ constexpr FormRow formRows[] = {
     {"buttonPreset", "QPushButton", "Defaut preset    "},
     {"buttonStart", "QPushButton", "Start  "},
 };
+
+/// The controls that show one of the logger's values each, by their kind.
+constexpr const char* lineNames[] = {"lineSender", "lineRecipient", "lineInfo", "lineBarcode"};
+constexpr const char* comboNames[] = {"comboTemp", "comboSampling", "comboDelay", "comboType"};

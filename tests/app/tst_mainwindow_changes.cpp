@@ -1,5 +1,6 @@
 // What the operator has changed: the mark in the title, and the question before it is lost with the window.
 
+#include "formrows.h"
 #include "procedurerig.h"
 #include "windowstate.h"
 #include "windowwords.h"
@@ -15,33 +16,7 @@ namespace {
 const QString plainTitle = QStringLiteral("Brumalogger Configuration Tool");
 const QString starredTitle = QStringLiteral("Brumalogger Configuration Tool*");
 
-constexpr const char* lines[] = {"lineSender", "lineRecipient", "lineInfo", "lineBarcode"};
-constexpr const char* combos[] = {"comboTemp", "comboSampling", "comboDelay", "comboType"};
 constexpr const char* spins[] = {"spinSampling", "spinDelay", "spindTempMin", "spindTempMax"};
-
-/// A logger whose numbers are all custom values.
-LoggerModel customLogger()
-{
-    LoggerModel model = basicLogger();
-    model.settings().samplingTime = 420;
-    model.settings().startDelay = 420;
-    model.settings().tempMin = 2500;
-    model.settings().tempMax = 8500;
-    return model;
-}
-
-double valueOf(const WindowRig& rig, const char* spinName)
-{
-    return rig.find<QWidget>(spinName)->property("value").toDouble();
-}
-
-void expectExitQuestion(WindowRig& rig, QMessageBox::StandardButton answer)
-{
-    rig.robot.expectQuestion(QStringLiteral("Exit"),
-                             QStringLiteral("There are modifications that were not written to the device.\n"
-                                            "Do you really wish to exit?"),
-                             answer);
-}
 
 /// Changes one control as an operator does; the step tells one change from the next.
 void change(WindowRig& rig, const QString& name, int step)
@@ -83,9 +58,9 @@ void TestMainWindowChanges::initTestCase()
 void TestMainWindowChanges::changesMarkTheTitle_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char* name : lines)
+    for (const char* name : lineNames)
         QTest::newRow(name) << name;
-    for (const char* name : combos)
+    for (const char* name : comboNames)
         QTest::newRow(name) << name;
     QTest::newRow("checkLock") << "checkLock";
 }
@@ -100,19 +75,19 @@ void TestMainWindowChanges::changesMarkTheTitle()
         change(rig, name, step);
         QCOMPARE(rig.title(), starredTitle);
     }
-    expectExitQuestion(rig, QMessageBox::Yes);
+    WindowWords::expectExit(rig.robot, QMessageBox::Yes);
     QVERIFY(rig.window.close());
     QCOMPARE(rig.robot.problems(), QString());
 }
 
 void TestMainWindowChanges::programChangesMarkTheTitle()
 {
-    for (const char* name : lines) {
+    for (const char* name : lineNames) {
         ProcedureRig rig;
         rig.find<QLineEdit>(name)->setText(QStringLiteral("x"));
         QCOMPARE(rig.title(), starredTitle);
     }
-    for (const char* name : combos) {
+    for (const char* name : comboNames) {
         ProcedureRig rig;
         rig.find<QComboBox>(name)->setCurrentIndex(1);
         QCOMPARE(rig.title(), starredTitle);
@@ -128,9 +103,9 @@ void TestMainWindowChanges::spinBoxesMarkNothing()
     rig.plugAndConnect(customLogger());
     for (const char* name : spins) {
         QVERIFY2(rig.isEnabled(name), name);
-        const double before = valueOf(rig, name);
+        const double before = rig.value(name);
         QTest::keyClick(rig.find<QWidget>(name), Qt::Key_Up);
-        QCOMPARE(valueOf(rig, name), before + 1);
+        QCOMPARE(rig.value(name), before + 1);
     }
     QCOMPARE(rig.title(), plainTitle);
     QVERIFY(rig.window.close());
@@ -169,14 +144,14 @@ void TestMainWindowChanges::noKeepsTheWindow()
 {
     ProcedureRig rig;
     rig.plugAndConnect();
-    for (const char* name : lines)
+    for (const char* name : lineNames)
         change(rig, name, 0);
-    for (const char* name : combos)
+    for (const char* name : comboNames)
         change(rig, name, 0);
     change(rig, "checkLock", 0);
     const QStringList before = panels(rig) + setupNumbers(rig);
 
-    expectExitQuestion(rig, QMessageBox::No);
+    WindowWords::expectExit(rig.robot, QMessageBox::No);
     QVERIFY(!rig.window.close());
     QVERIFY(rig.window.isVisible());
     QCOMPARE(rig.title(), starredTitle);
@@ -194,7 +169,7 @@ void TestMainWindowChanges::yesClosesTheLink()
     ProcedureRig rig;
     rig.plugAndConnect();
     change(rig, "lineSender", 0);
-    expectExitQuestion(rig, QMessageBox::Yes);
+    WindowWords::expectExit(rig.robot, QMessageBox::Yes);
     QVERIFY(rig.window.close());
     QVERIFY(!rig.window.isVisible());
     QCOMPARE(rig.wire(), QList<QByteArray>());
@@ -217,7 +192,7 @@ void TestMainWindowChanges::exitQuestionIsPlain()
         parent = box ? box->parent() : nullptr;
         chosenBefore = box ? box->defaultButton() : nullptr;
     });
-    expectExitQuestion(rig, QMessageBox::Yes);
+    WindowWords::expectExit(rig.robot, QMessageBox::Yes);
     QVERIFY(rig.window.close());
     QVERIFY(box);
     QCOMPARE(parent, &rig.window);

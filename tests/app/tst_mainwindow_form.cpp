@@ -2,6 +2,7 @@
 
 #include "app/mainwindow.h"
 #include "formrows.h"
+#include "support/windowrig.h"
 #include "windowstate.h"
 
 #include <QAbstractButton>
@@ -50,15 +51,6 @@ QString shownText(const QWidget* widget)
 {
     const auto* group = qobject_cast<const QGroupBox*>(widget);
     return group ? group->title() : widget->property("text").toString();
-}
-
-template<typename Object>
-Object* child(const QWidget& window, const char* name)
-{
-    auto* found = window.findChild<Object*>(QLatin1String(name));
-    if (!found)
-        qFatal("nothing named %s", name);
-    return found;
 }
 
 /// The button image that the button's icon looks like.

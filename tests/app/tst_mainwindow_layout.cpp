@@ -33,15 +33,6 @@ private:
 constexpr const char* hiddenAtStart[] = {"labelTimeZone",        "labelTimeZoneStatic", "labelLastReset",
                                          "labelLastResetStatic", "buttonAdvanced",      "buttonToolTimeZone"};
 
-template<typename Object>
-Object* child(const QWidget& window, const char* name)
-{
-    auto* found = window.findChild<Object*>(QLatin1String(name));
-    if (!found)
-        qFatal("nothing named %s", name);
-    return found;
-}
-
 /// True if the form's file itself sets the property to true.
 bool formSets(const QString& property)
 {
@@ -194,8 +185,7 @@ void TestMainWindowLayout::trackingInOneRow()
 void TestMainWindowLayout::tabOrder()
 {
     ProcedureRig rig;
-    rig.window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&rig.window));
+    rig.activate();
     rig.plugAndConnect();
     const QStringList order = {"comboSampling", "comboDelay", "checkLock",   "lineSender",
                                "lineRecipient", "lineInfo",   "lineBarcode", "comboType",

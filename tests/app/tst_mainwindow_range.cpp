@@ -182,8 +182,7 @@ void TestMainWindowRange::validatesWhenTheBoxIsLeft()
 {
     ProcedureRig rig;
     rig.plugAndConnect(loggerWithRange(2500, 8000));
-    rig.window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&rig.window));
+    rig.activate();
     const Panel panel(rig);
     auto* spin = rig.find<QDoubleSpinBox>("spindTempMax");
     spin->setFocus();

@@ -1,5 +1,6 @@
 // The window as a shell: first show, usable controls, keys, the clock, the help.
 
+#include "formrows.h"
 #include "procedurerig.h"
 #include "support/testclock.h"
 #include "time/timekeeper.h"
@@ -25,8 +26,6 @@ const QString nothing = QStringLiteral(" - ");
 constexpr const char* clearedLabels[] = {
     "labelDeviceName", "labelFirmwareVersion", "labelHardwareRevision", "labelDateTime",
     "labelType",       "labelSerial"};
-constexpr const char* lines[] = {"lineSender", "lineRecipient", "lineInfo", "lineBarcode"};
-constexpr const char* combos[] = {"comboTemp", "comboSampling", "comboDelay", "comboType"};
 
 /// Stands in for the system's browser.
 class Browser : public QObject
@@ -41,17 +40,6 @@ public:
 public slots:
     void open(const QUrl& url) { opened << url; }
 };
-
-/// A logger whose numbers are all custom values.
-LoggerModel customLogger()
-{
-    LoggerModel model = basicLogger();
-    model.settings().samplingTime = 420;
-    model.settings().startDelay = 420;
-    model.settings().tempMin = 2500;
-    model.settings().tempMax = 8500;
-    return model;
-}
 
 /// A logger that shows as the first row of every list.
 LoggerModel firstRowsLogger()
@@ -95,18 +83,6 @@ QStringList wrongControls(const WindowRig& rig, bool Usable::*state)
     return wrong;
 }
 
-double valueOf(const WindowRig& rig, const char* spinName)
-{
-    return rig.find<QWidget>(spinName)->property("value").toDouble();
-}
-
-void activate(WindowRig& rig)
-{
-    rig.window.activateWindow();
-    if (!QTest::qWaitForWindowActive(&rig.window))
-        qFatal("the window was never active");
-}
-
 /// The figures on the clock; an hour that the computer's zone leaves out is as good as any.
 QDateTime shownTime(const WindowRig& rig)
 {
@@ -141,15 +117,15 @@ private slots:
 void TestMainWindowShell::firstShowClearsThePanels()
 {
     MainWindow window;
-    auto* line = window.findChild<QLineEdit*>(QStringLiteral("lineInfo"));
-    auto* combo = window.findChild<QComboBox*>(QStringLiteral("comboDelay"));
+    auto* line = child<QLineEdit>(window, "lineInfo");
+    auto* combo = child<QComboBox>(window, "comboDelay");
     line->setText(QStringLiteral("early"));
     combo->setCurrentIndex(3);
-    QCOMPARE(window.findChild<QLabel*>(QStringLiteral("labelType"))->text(), QStringLiteral("-"));
+    QCOMPARE(child<QLabel>(window, "labelType")->text(), QStringLiteral("-"));
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     for (const char* name : clearedLabels)
-        QCOMPARE(window.findChild<QLabel*>(QLatin1String(name))->text(), nothing);
+        QCOMPARE(child<QLabel>(window, name)->text(), nothing);
     QCOMPARE(line->text(), QString());
     QCOMPARE(combo->currentIndex(), 0);
     QVERIFY(!line->isEnabled());
@@ -188,9 +164,9 @@ void TestMainWindowShell::disconnectClearsThePanels()
         QVERIFY2(rig.find<QWidget>(qPrintable(name))->isHidden(), qPrintable(name));
     QCOMPARE(rig.find<QLabel>("labelDateTime")->styleSheet(), QString());
     QCOMPARE(rig.text("labelLowBattery"), QString());
-    for (const char* name : lines)
+    for (const char* name : lineNames)
         QCOMPARE(rig.text(name), QString());
-    for (const char* name : combos)
+    for (const char* name : comboNames)
         QCOMPARE(rig.find<QComboBox>(name)->currentIndex(), 0);
     QVERIFY(rig.find<QCheckBox>("checkLock")->isChecked());
     QCOMPARE(rig.robot.problems(), QString());
@@ -212,10 +188,10 @@ void TestMainWindowShell::disconnectClearsNumbers()
     rig.plugAndConnect(fromFirstRows ? firstRowsLogger() : basicLogger());
     rig.press("buttonConnect");
     QCOMPARE(rig.find<QComboBox>("comboTemp")->currentIndex(), 0);
-    QTEST(valueOf(rig, "spindTempMin"), "tempMin");
-    QTEST(valueOf(rig, "spindTempMax"), "tempMax");
-    QCOMPARE(valueOf(rig, "spinSampling"), 1.0);
-    QCOMPARE(valueOf(rig, "spinDelay"), 1.0);
+    QTEST(rig.value("spindTempMin"), "tempMin");
+    QTEST(rig.value("spindTempMax"), "tempMax");
+    QCOMPARE(rig.value("spinSampling"), 1.0);
+    QCOMPARE(rig.value("spinDelay"), 1.0);
     QCOMPARE(rig.robot.problems(), QString());
 }
 
@@ -266,7 +242,7 @@ void TestMainWindowShell::keysOfDisabledButtons()
 {
     QFETCH(const Qt::Key, key);
     ProcedureRig rig;
-    activate(rig);
+    rig.activate();
     rig.plug();
     rig.pressKeys(key);
     QCOMPARE(rig.wire(), QList<QByteArray>());
@@ -279,7 +255,7 @@ void TestMainWindowShell::keysOfEnabledButtons()
     ProcedureRig rig;
     rig.plug();
     const auto press = [&rig](Qt::Key key) {
-        activate(rig);
+        rig.activate();
         rig.logger->clearExchanges();
         rig.pressKeys(key);
         return rig.wire();

@@ -60,6 +60,11 @@ QString WindowRig::text(const char* name) const
     return find<QWidget>(name)->property("text").toString();
 }
 
+double WindowRig::value(const char* spinBoxName) const
+{
+    return find<QWidget>(spinBoxName)->property("value").toDouble();
+}
+
 bool WindowRig::isEnabled(const char* widgetName) const
 {
     return find<QWidget>(widgetName)->isEnabled();
@@ -125,5 +130,15 @@ LoggerModel extendedLogger()
 {
     LoggerModel model = basicLogger();
     model.settings().firmware = QStringLiteral("1.2.0");
+    return model;
+}
+
+LoggerModel customLogger()
+{
+    LoggerModel model = basicLogger();
+    model.settings().samplingTime = 420;
+    model.settings().startDelay = 420;
+    model.settings().tempMin = 2500;
+    model.settings().tempMax = 8500;
     return model;
 }

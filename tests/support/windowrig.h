@@ -11,6 +11,16 @@
 
 class QProgressDialog;
 
+/// The object of that name in @p window; without one the test program ends.
+template<typename Object>
+Object* child(const QWidget& window, const char* name)
+{
+    auto* found = window.findChild<Object*>(QLatin1String(name));
+    if (!found)
+        qFatal("nothing named %s", name);
+    return found;
+}
+
 /// A main window, a bench with simulated loggers, and a robot that answers the window's boxes. Widgets go by
 /// their object names, as an operator would find them by their place.
 class WindowRig
@@ -27,10 +37,7 @@ public:
     template<typename Widget>
     Widget* find(const char* name) const
     {
-        auto* widget = window.findChild<Widget*>(QLatin1String(name));
-        if (!widget)
-            qFatal("no widget named %s", name);
-        return widget;
+        return child<Widget>(window, name);
     }
 
     /// Presses a button of the window and returns when all that it set off is over.
@@ -39,6 +46,7 @@ public:
     QString title() const { return window.windowTitle(); }
     bool isModified() const { return title().endsWith(QLatin1Char('*')); }
     QString text(const char* lineOrLabelOrButtonName) const;
+    double value(const char* spinBoxName) const;
     bool isEnabled(const char* widgetName) const;
     /// True when every control of "connected and idle" is enabled, and false when every one is disabled; a
     /// mixture is told in words by controlsMixture().
@@ -63,3 +71,5 @@ public:
 LoggerModel basicLogger();
 /// Firmware 1.2.0, otherwise the same.
 LoggerModel extendedLogger();
+/// Basic firmware, and the sampling time, the start delay and the range are on no list of the setup panel.
+LoggerModel customLogger();
