@@ -11,7 +11,6 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
-#include <QTimer>
 
 ProcedureRig::ProcedureRig()
 {
@@ -75,14 +74,6 @@ void ProcedureRig::pressCancel()
     if (!button)
         qFatal("there is no progress dialog to cancel");
     QTest::mouseClick(button, Qt::LeftButton);
-}
-
-void ProcedureRig::atNextChance(const std::function<void()>& action)
-{
-    auto* timer = new QTimer(&window);
-    timer->setSingleShot(true);
-    QObject::connect(timer, &QTimer::timeout, timer, action);
-    timer->start(0);
 }
 
 void ProcedureRig::pressKeys(Qt::Key key)

@@ -24,8 +24,6 @@ public:
     void type(const char* lineName, const QString& text);
     /// Presses the Cancel button of the progress dialog.
     void pressCancel();
-    /// Does @p action once the event loop runs again.
-    void atNextChance(const std::function<void()>& action);
     /// Presses Ctrl and @p key over the window, which hears it as a shortcut only if it is the active one.
     void pressKeys(Qt::Key key);
     /// Makes the window the active one.

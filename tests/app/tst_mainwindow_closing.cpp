@@ -1,6 +1,7 @@
 // The window is closed in the middle of a procedure, at every single command: nothing more is said or sent.
 
 #include "procedurerig.h"
+#include "support/nextchance.h"
 #include "windowstate.h"
 #include "windowwords.h"
 
@@ -148,7 +149,7 @@ void TestMainWindowClosing::beforeHandshake()
 {
     ProcedureRig rig;
     rig.plug();
-    rig.atNextChance([&rig] { rig.window.close(); });
+    atNextChance(&rig.window, [&rig] { rig.window.close(); });
     rig.press("buttonConnect");
     QCOMPARE(remains(rig), QString());
     QCOMPARE(rig.wire(), QList<QByteArray>());
@@ -166,7 +167,7 @@ void TestMainWindowClosing::beforeFirstIdentification()
 {
     QFETCH(const bool, connecting);
     ProcedureRig rig;
-    const auto closeSoon = [&rig] { rig.atNextChance([&rig] { rig.window.close(); }); };
+    const auto closeSoon = [&rig] { atNextChance(&rig.window, [&rig] { rig.window.close(); }); };
     if (connecting) {
         rig.plug();
         connect(rig.find<QStatusBar>("statusBar"), &QStatusBar::messageChanged, &rig.window,

@@ -1,6 +1,7 @@
 // Buttons and keys pressed while a procedure waits for the logger: nothing comes of them.
 
 #include "procedurerig.h"
+#include "support/nextchance.h"
 #include "windowstate.h"
 #include "windowwords.h"
 
@@ -103,11 +104,11 @@ void TestMainWindowInterruptions::beforeConnectHasDialog()
     connect(rig.find<QStatusBar>("statusBar"), &QStatusBar::messageChanged, &rig.window,
             [&](const QString& message) {
                 if (message == QStringLiteral("Connecting to device... "))
-                    rig.atNextChance([&] { pressAt(QStringLiteral("read begun")); });
+                    atNextChance(&rig.window, [&] { pressAt(QStringLiteral("read begun")); });
             });
     rig.atCommand(2, [&] { pressAt(QStringLiteral("identification")); });
     rig.activate();
-    rig.atNextChance([&] { pressAt(QStringLiteral("port opened")); });
+    atNextChance(&rig.window, [&] { pressAt(QStringLiteral("port opened")); });
     rig.press("buttonConnect");
     QCOMPARE(pressedAt, QStringList({"port opened", "handshake", "read begun", "identification"}));
     QCOMPARE(rig.wire(), connectCommands());
@@ -134,7 +135,7 @@ void TestMainWindowInterruptions::beforeReadHasDialog()
     rig.plugAndConnect();
     int times = 0;
     rig.activate();
-    rig.atNextChance([&] {
+    atNextChance(&rig.window, [&] {
         ++times;
         pressEverything(rig);
     });

@@ -2,10 +2,11 @@
 
 #include "support/dialogrobot.h"
 
+#include "support/nextchance.h"
+
 #include <QAbstractButton>
 #include <QCoreApplication>
 #include <QEvent>
-#include <QTimer>
 
 namespace {
 
@@ -59,7 +60,7 @@ bool DialogRobot::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Show) {
         // The box answers from its own event loop, which isn't running yet.
         if (auto* box = qobject_cast<QMessageBox*>(watched))
-            QTimer::singleShot(0, box, [this, box] { answerBox(box); });
+            atNextChance(box, [this, box] { answerBox(box); });
     }
     return QObject::eventFilter(watched, event);
 }
