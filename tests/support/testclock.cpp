@@ -70,10 +70,10 @@ void TestClock::reset()
     theClock() = Clock();
 }
 
-extern "C" int gettimeofday(timeval* time, void* /*zone*/) noexcept
+extern "C" int gettimeofday(timeval* tv, void* /*zone*/) noexcept
 {
     const qint64 now = readMicros();
-    time->tv_sec = now / microsPerSecond;
-    time->tv_usec = now % microsPerSecond;
+    tv->tv_sec = now / microsPerSecond;
+    tv->tv_usec = now % microsPerSecond;
     return 0;
 }

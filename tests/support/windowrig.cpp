@@ -45,7 +45,7 @@ void WindowRig::plugAndConnect(const LoggerModel& model)
     logger->clearExchanges();
 }
 
-void WindowRig::press(const char* buttonName)
+void WindowRig::press(const char* buttonName) const
 {
     QTest::mouseClick(find<QPushButton>(buttonName), Qt::LeftButton);
 }
@@ -97,7 +97,7 @@ QProgressDialog* WindowRig::progressDialog() const
     return window.findChild<QProgressDialog*>();
 }
 
-void WindowRig::atCommand(int number, const std::function<void()>& action)
+void WindowRig::atCommand(int number, const std::function<void()>& action) const
 {
     auto* watcher = new QObject(logger);
     QObject::connect(logger, &SimulatedPort::sCommandReceived, watcher,

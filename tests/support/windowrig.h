@@ -41,7 +41,7 @@ public:
     }
 
     /// Presses a button of the window and returns when all that it set off is over.
-    void press(const char* buttonName);
+    void press(const char* buttonName) const;
     QString status() const;
     QString title() const { return window.windowTitle(); }
     bool isModified() const { return title().endsWith(QLatin1Char('*')); }
@@ -56,7 +56,7 @@ public:
     QProgressDialog* progressDialog() const;
     /// Does @p action when the logger has received its n-th command from now (1 is the next), before it is
     /// answered.
-    void atCommand(int number, const std::function<void()>& action);
+    void atCommand(int number, const std::function<void()>& action) const;
 
     /// The commands on the first logger's wire since plugging or clearExchanges().
     QList<QByteArray> wire() const { return logger->commands(); }
