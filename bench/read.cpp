@@ -105,10 +105,13 @@ int main(int argc, char** argv)
     MainWindow window;
     window.show();
     int result = 1;
-    QTimer::singleShot(0, &window, [&] {
+    QTimer begin;
+    begin.setSingleShot(true);
+    QObject::connect(&begin, &QTimer::timeout, &window, [&] {
         result = measure(window);
         QApplication::quit();
     });
+    begin.start(0);
     QApplication::exec();
     return result;
 }
