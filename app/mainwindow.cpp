@@ -4,6 +4,8 @@
 
 #include "app/buttonicon.h"
 #include "device/brumaloggerinterface.h"
+#include "dialogs/settingsdialog.h"
+#include "time/timemanager.h"
 #include "ui_mainwindow.h"
 
 #include <QCloseEvent>
@@ -52,16 +54,26 @@ MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , ui(new Ui::MainWindow)
     , device(new BrumaloggerInterface(nullptr))
+    , settingsDialog(new SettingsDialog(this))
+    , timeManager(new TimeManager(nullptr))
 {
     Q_INIT_RESOURCE(images);
     ui->setupUi(this);
     plFillLists();
+    defaultTimeZoneName = timeManager->timeZones().constFirst().name;
+    currentTimeZoneName = defaultTimeZoneName;
     setWindowTitle(windowTitleBase); // in place of the form's, which is translated
+    settingsDialog->setConfigPath(QStringLiteral("blconf"));
     plInsertLists();
     timeKeeper.setRunning(false);
     plConnectSignals();
     plSetUpButtons();
     ui->buttonAdvanced->hide();
+    settingsDialog->loadSettings();
+    plSettingsAccepted();
+    const QSize savedSize = settingsDialog->savedWindowSize();
+    if (savedSize.width() != 0 && savedSize.height() != 0)
+        resize(savedSize);
     plShowTimeZone(false);
     plShowLastReset(false);
 }
@@ -69,6 +81,11 @@ MainWindow::MainWindow(QWidget* parent)
 MainWindow::~MainWindow()
 {
     delete ui;
+}
+
+void MainWindow::lSetLanguages(const LanguageTable& table)
+{
+    settingsDialog->setLanguages(table);
 }
 
 // Where two slots hang on one signal they run in the order of these lines.
@@ -93,6 +110,7 @@ void MainWindow::plConnectSignals()
     connect(ui->spindTempMin, &QDoubleSpinBox::editingFinished, this, &MainWindow::plValidateTempRange);
     connect(ui->actionWebHelp, &QAction::triggered, this,
             [] { QDesktopServices::openUrl(QUrl(QLatin1String(onlineHelpAddress))); });
+    plConnectServices();
 }
 
 // The spin boxes are left out on purpose: a custom value alone marks no change.
@@ -104,6 +122,14 @@ void MainWindow::plConnectChanges()
         connect(combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 [this] { plChangesOcurred(); });
     connect(ui->checkLock, &QCheckBox::stateChanged, this, [this] { plChangesOcurred(); });
+}
+
+void MainWindow::plConnectServices()
+{
+    connect(ui->actionSettings, &QAction::triggered, settingsDialog.data(), &QDialog::exec);
+    connect(settingsDialog.data(), &QDialog::accepted, this, &MainWindow::plSettingsAccepted);
+    connect(timeManager.data(), &TimeManager::sQuerySuccesful, this, &MainWindow::plOnTimeManagerConnect);
+    connect(timeManager.data(), &TimeManager::sQueryTimeout, this, &MainWindow::plOnTimeManagerTimeout);
 }
 
 void MainWindow::plSetUpButtons()
@@ -137,6 +163,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         return;
     }
     closed = true;
+    settingsDialog->saveSettings();
     device->lDisconnect();
     event->accept();
 }
@@ -151,6 +178,9 @@ void MainWindow::plDisableControls(bool disabled)
         widget->setEnabled(!disabled);
     for (QAction* action : {ui->actionSave, ui->actionLoad})
         action->setEnabled(!disabled);
+    ui->buttonToolTimeZone->setEnabled(!disabled && settingsDialog->timeEnabled() &&
+                                       timeManager->isQuerySuccesful());
+    ui->buttonPreset->setEnabled(settingsDialog->presetEnabled());
     if (disabled) {
         for (QWidget* widget : std::initializer_list<QWidget*>{
                  ui->spinDelay, ui->spinSampling, ui->spindTempMin, ui->spindTempMax, ui->buttonPreset})

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialogs/languagetable.h"
 #include "time/timekeeper.h"
 
 #include <QList>
@@ -15,7 +16,9 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QSpinBox;
+class SettingsDialog;
 class StepProgress;
+class TimeManager;
 enum class StepResult;
 
 namespace Ui {
@@ -35,8 +38,11 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
+    /// The languages that the settings offer.
+    void lSetLanguages(const LanguageTable& table);
+
 protected:
-    /// Asks before unwritten changes are lost, then closes the link.
+    /// Asks before unwritten changes are lost, then saves the settings and closes the link.
     void closeEvent(QCloseEvent* event) override;
     /// The first showing empties the panels and disables the controls.
     void showEvent(QShowEvent* event) override;
@@ -70,6 +76,12 @@ private slots:
     /// Notes that the window differs from the device, or with @p set false that it doesn't.
     void plChangesOcurred(bool set = true);
 
+    // mainwindow_display.cpp
+    /// Applies the settings and asks for the reference time.
+    void plSettingsAccepted();
+    void plOnTimeManagerConnect();
+    void plOnTimeManagerTimeout();
+
 private:
     /// A free text on the logger with its line edit. The limit is its longest length in characters, and also
     /// the width to which the command that writes it is padded.
@@ -90,6 +102,7 @@ private:
     // mainwindow.cpp
     void plConnectSignals();
     void plConnectChanges();
+    void plConnectServices();
     void plSetUpButtons();
     void plDisableControls(bool disabled);
     /// A question with Yes and No.
@@ -101,6 +114,13 @@ private:
 
     // mainwindow_display.cpp
     void plClearDeviceInfo();
+    void plFetchTime();
+    /// The source of the reference time, for messages.
+    QString plTimeSource() const;
+    /// Shows the zone of the device's clock as far as it is known.
+    void plUpdateTimeZoneLabel();
+    /// Adopts the zone called @p name: the clock shows the reference time in it. Marks the clock as changed.
+    void plSetTimeZone(const QString& name);
     void plShowTimeZone(bool shown);
     void plShowLastReset(bool shown);
 
@@ -152,12 +172,17 @@ private:
 
     Ui::MainWindow* ui;
     QSharedPointer<BrumaloggerInterface> device;
+    QSharedPointer<SettingsDialog> settingsDialog;
+    QSharedPointer<TimeManager> timeManager;
     const QString dateTimeDisplayFormat = QStringLiteral("hh:mm:ss dd/MMM/yyyy");
     bool keepConnecting = false; ///< false once a connect under way is over and must say nothing more
     bool deviceLocked = false;   ///< the device's password lock is on and wasn't opened
     bool controlsDisabled = false;
+    bool timeZoneFromDevice = false; ///< the zone last read from the device is in force
     QString connectKeyText;
     QString windowTitleBase = QStringLiteral("Brumalogger Configuration Tool");
+    QString currentTimeZoneName;
+    QString defaultTimeZoneName;
     QStringList sampleTimeLabels;
     QStringList tempRangeLabels;
     QStringList shipmentTypes;

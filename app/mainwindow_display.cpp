@@ -1,12 +1,104 @@
-// What the device panel shows: the clock, the empty panel, copying from it.
+// Settings applied, the reference time as it comes in, and what the device panel shows.
 
 #include "app/mainwindow.h"
 
+#include "device/brumaloggerinterface.h"
+#include "dialogs/settingsdialog.h"
+#include "time/timemanager.h"
 #include "ui_mainwindow.h"
 
 #include <QClipboard>
+#include <QDebug>
 #include <QGuiApplication>
 #include <QMenu>
+
+void MainWindow::plSettingsAccepted()
+{
+    setStyleSheet(QStringLiteral("font-size: %1pt").arg(settingsDialog->fontSize()));
+    if (!controlsDisabled) {
+        ui->buttonPreset->setEnabled(settingsDialog->presetEnabled());
+        ui->buttonToolTimeZone->setEnabled(settingsDialog->timeEnabled());
+    }
+    device->lSetFastMode(settingsDialog->fastEnabled());
+    if (settingsDialog->timeEnabled())
+        plFetchTime();
+    plUpdateTimeZoneLabel();
+}
+
+// The pool is asked at every opportunity, a single server only when it is another one than before.
+void MainWindow::plFetchTime()
+{
+    if (settingsDialog->poolEnabled()) {
+        ui->statusBar->showMessage(tr("Fetching time and date from server pool..."));
+        timeManager->queryPool(settingsDialog->serverListForPool());
+        return;
+    }
+    const QString server = settingsDialog->timeServer();
+    if (server == timeManager->serverName())
+        return;
+    ui->statusBar->showMessage(tr("Fetching time and date from %1...").arg(server));
+    timeManager->queryServer(server);
+}
+
+QString MainWindow::plTimeSource() const
+{
+    return settingsDialog->poolEnabled() ? tr("server pool") : settingsDialog->timeServer();
+}
+
+void MainWindow::plOnTimeManagerConnect()
+{
+    if (settingsDialog->timeEnabled())
+        ui->statusBar->showMessage(tr("Successfully fetched time and date from %1.").arg(plTimeSource()));
+    if (!controlsDisabled)
+        plUpdateTimeZoneLabel();
+}
+
+void MainWindow::plOnTimeManagerTimeout()
+{
+    if (settingsDialog->timeEnabled())
+        ui->statusBar->showMessage(
+            tr("Unable to fetch date and time from %1. Check your connections or try another server.")
+                .arg(plTimeSource()));
+}
+
+// The zone on the device is the best source; else its clock tells, if there is a reference time.
+void MainWindow::plUpdateTimeZoneLabel()
+{
+    TimeZoneMatch match;
+    const bool zoneKnown = device->lIsExtendedFirmware() && timeZoneFromDevice;
+    if (zoneKnown)
+        match = timeManager->matchTimeZoneByOffset(device->lTimeZoneOffset());
+    if (settingsDialog->timeEnabled() && timeManager->isQuerySuccesful()) {
+        qDebug() << "Updating time zone on UI...";
+        const QDateTime shown = timeKeeper.timeUtc();
+        if (!zoneKnown)
+            match = timeManager->matchTimeZoneByDateTime(shown.date(), shown.time());
+        ui->buttonToolTimeZone->show();
+        ui->buttonToolTimeZone->setEnabled(true);
+    }
+    const bool found = match.id != -1;
+    currentTimeZoneName = found ? match.name : defaultTimeZoneName;
+    if (found)
+        ui->labelTimeZone->setText(match.name);
+    plShowTimeZone(found);
+}
+
+void MainWindow::plSetTimeZone(const QString& name)
+{
+    const TimeZoneMatch match = timeManager->timeZoneByName(name);
+    if (match.id == -1) {
+        currentTimeZoneName = defaultTimeZoneName;
+        return;
+    }
+    currentTimeZoneName = name;
+    timeKeeper.setTime(timeManager->currentTimeUtc().addSecs(match.offset));
+    // Older loggers print every time as if it were GMT; the report has to say what it is.
+    if (!device->lIsExtendedFirmware() && name != defaultTimeZoneName)
+        ui->lineInfo->setText(QStringLiteral("ALL DATES/TIMES ARE %1. IGNORE GMT REMARK BELOW.").arg(name));
+    ui->labelDateTime->setStyleSheet(QStringLiteral("font: bold"));
+    plUpdateTimeZoneLabel();
+    plUpdateDateTime();
+}
 
 void MainWindow::plUpdateDateTime()
 {

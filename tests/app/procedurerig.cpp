@@ -12,7 +12,8 @@
 #include <QStatusBar>
 #include <QTest>
 
-ProcedureRig::ProcedureRig()
+ProcedureRig::ProcedureRig(const Settings& settings)
+    : WindowRig(settings)
 {
     TestClock::set(QDateTime(QDate(2024, 5, 15), QTime(12, 0)).toMSecsSinceEpoch());
     QObject::connect(find<QStatusBar>("statusBar"), &QStatusBar::messageChanged, &window,

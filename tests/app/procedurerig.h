@@ -7,7 +7,7 @@
 class ProcedureRig : public WindowRig
 {
 public:
-    ProcedureRig();
+    explicit ProcedureRig(const Settings& settings = quietSettings());
 
     /// As in WindowRig.
     SimulatedPort* plug(const LoggerModel& model = basicLogger(), const UsbIdentity& identity = {});

@@ -22,7 +22,8 @@ constexpr const char* idleActions[] = {"actionSave", "actionLoad"};
 
 } // namespace
 
-WindowRig::WindowRig()
+WindowRig::WindowRig(const Settings& settings)
+    : folder(settings)
 {
     TestClock::ignoreStalls();
     window.show();

@@ -3,6 +3,7 @@
 #include "app/mainwindow.h"
 #include "simulator/usbbench.h"
 #include "support/dialogrobot.h"
+#include "support/workfolder.h"
 
 #include <QList>
 #include <QString>
@@ -26,8 +27,8 @@ Object* child(const QWidget& window, const char* name)
 class WindowRig
 {
 public:
-    /// Shows the window; nothing is plugged in yet.
-    WindowRig();
+    /// Shows the window, started with @p settings; nothing is plugged in yet.
+    explicit WindowRig(const Settings& settings = quietSettings());
 
     /// Plugs in a logger; the first one is also `logger`.
     SimulatedPort* plug(const LoggerModel& model = {}, const UsbIdentity& identity = {});
@@ -62,6 +63,7 @@ public:
     QList<QByteArray> wire() const { return logger->commands(); }
 
     UsbBench bench;
+    WorkFolder folder;
     MainWindow window;
     DialogRobot robot;
     SimulatedPort* logger = nullptr;

@@ -1,0 +1,55 @@
+// A settings dialog and the hands that use it.
+
+#include "settingsdesk.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QTest>
+
+SettingsDesk::SettingsDesk(const Settings& settings)
+    : folder(settings)
+    , dialog(&window)
+{
+    window.resize(900, 800);
+    dialog.setConfigPath(QStringLiteral("blconf"));
+}
+
+bool SettingsDesk::isChecked(const char* box) const
+{
+    return find<QCheckBox>(box)->isChecked();
+}
+
+bool SettingsDesk::isEnabled(const char* widget) const
+{
+    return find<QWidget>(widget)->isEnabled();
+}
+
+void SettingsDesk::check(const char* box, bool checked)
+{
+    find<QCheckBox>(box)->setChecked(checked);
+}
+
+void SettingsDesk::choose(const char* combo, int row)
+{
+    find<QComboBox>(combo)->setCurrentIndex(row);
+}
+
+void SettingsDesk::open()
+{
+    dialog.open();
+    if (!QTest::qWaitForWindowExposed(&dialog))
+        qFatal("the dialog was never exposed");
+}
+
+LanguageTable someLanguages()
+{
+    const auto row = [](const char* name, const char* stem) {
+        return qMakePair(QString::fromUtf8(name), QString::fromLatin1(stem));
+    };
+    return {{QStringLiteral("en_us"), row("English (US)", "en")},
+            {QStringLiteral("it_ch"), row("Italiano (IT)", "brumaloger-config-gui_it")},
+            {QStringLiteral("es_es"), row("Español (ES)", "brumaloger-config-gui_es")},
+            {QStringLiteral("pt_br"), row("Português (BR)", "brumaloger-config-gui_ptbr")},
+            {QStringLiteral("fr_fr"), row("Français (FR)", "brumaloger-config-gui_fr")},
+            {QStringLiteral("de_de"), row("Deutsch (DE)", "brumaloger-config-gui_de")}};
+}

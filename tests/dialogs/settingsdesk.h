@@ -1,0 +1,39 @@
+#pragma once
+
+#include "dialogs/settingsdialog.h"
+#include "support/dialogrobot.h"
+#include "support/workfolder.h"
+
+#include <QString>
+#include <QWidget>
+
+/// A settings dialog over a window of 900 by 800 pixels, in a folder of its own, with a robot for its boxes.
+/// Its widgets go by their object names.
+class SettingsDesk
+{
+public:
+    explicit SettingsDesk(const Settings& settings = {});
+
+    template<typename Widget>
+    Widget* find(const char* name) const
+    {
+        auto* widget = dialog.findChild<Widget*>(QLatin1String(name));
+        if (!widget)
+            qFatal("no widget named %s", name);
+        return widget;
+    }
+    bool isChecked(const char* box) const;
+    bool isEnabled(const char* widget) const;
+    void check(const char* box, bool checked = true);
+    void choose(const char* combo, int row);
+    /// Shows the dialog without waiting for its end.
+    void open();
+
+    WorkFolder folder;
+    QWidget window;
+    SettingsDialog dialog;
+    DialogRobot robot;
+};
+
+/// The languages of the program, as far as a list of them needs it.
+LanguageTable someLanguages();

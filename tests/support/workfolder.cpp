@@ -1,0 +1,70 @@
+// A place for the files that the program finds and leaves where it runs.
+
+#include "support/workfolder.h"
+
+#include "presets/presetstorage.h"
+
+#include <QDir>
+#include <QFont>
+#include <QGuiApplication>
+
+namespace {
+
+const QString configurationName = QStringLiteral("blconf");
+
+constexpr const char* keys[] = {"fontsize",      "preseten",    "presetpath", "timeserver", "disabletime",
+                                "useserverpool", "disablefast", "language",   "winwidth",   "winheight"};
+
+void writeConfiguration(const Settings& settings)
+{
+    PresetStorage storage(nullptr);
+    for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting)
+        storage.setValue(setting.key(), setting.value());
+    if (!storage.save(configurationName))
+        qFatal("the configuration could not be written");
+}
+
+} // namespace
+
+Settings quietSettings()
+{
+    return {{QStringLiteral("disabletime"), QStringLiteral("1")},
+            {QStringLiteral("useserverpool"), QStringLiteral("0")},
+            {QStringLiteral("fontsize"), QString::number(QGuiApplication::font().pointSize())}};
+}
+
+Settings quietSettingsWith(const Settings& own)
+{
+    Settings settings = quietSettings();
+    for (auto setting = own.cbegin(); setting != own.cend(); ++setting)
+        settings.insert(setting.key(), setting.value());
+    return settings;
+}
+
+WorkFolder::WorkFolder(const Settings& settings)
+    : before(QDir::currentPath())
+{
+    if (!folder.isValid() || !QDir::setCurrent(folder.path()))
+        qFatal("no folder to work in: %s", qPrintable(folder.errorString()));
+    if (!settings.isEmpty())
+        writeConfiguration(settings);
+}
+
+WorkFolder::~WorkFolder()
+{
+    QDir::setCurrent(before);
+}
+
+Settings WorkFolder::configuration()
+{
+    PresetStorage storage(nullptr);
+    Settings settings;
+    if (!storage.load(configurationName))
+        return settings;
+    for (const char* name : keys) {
+        const QString key = QLatin1String(name);
+        if (storage.contains(key))
+            settings.insert(key, storage.value(key));
+    }
+    return settings;
+}
