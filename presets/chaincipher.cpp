@@ -6,6 +6,7 @@
 #include <QDataStream>
 #include <QDateTime>
 #include <QDebug>
+#include <QtEndian>
 
 namespace {
 
@@ -173,11 +174,20 @@ QByteArray ChainCipher::plUnchained(const QByteArray& cipher) const
 {
     QByteArray payload(cipher.size() - headerSize, Qt::Uninitialized);
     const char* chained = cipher.constData() + headerSize;
-    const char* keyData = keyBytes.constData();
     char* plain = payload.data();
-    const int size = payload.size();
-    for (int i = 0; i < size; ++i)
-        plain[i] = static_cast<char>(chained[i] ^ keyData[i % keySize] ^ (i > 0 ? chained[i - 1] : 0));
+    const auto undo = [&](int i) {
+        plain[i] = static_cast<char>(chained[i] ^ keyBytes.at(i % keySize) ^ (i > 0 ? chained[i - 1] : 0));
+    };
+    int done = 0;
+    for (; done < qMin(keySize, payload.size()); ++done)
+        undo(done);
+    // The bulk of it by the length of the key, which large files are worth.
+    const auto word = [](const char* bytes) { return qFromUnaligned<quint64>(bytes); };
+    for (; done + keySize <= payload.size(); done += keySize)
+        qToUnaligned(word(chained + done) ^ word(chained + done - 1) ^ word(keyBytes.constData()),
+                     plain + done);
+    for (; done < payload.size(); ++done)
+        undo(done);
     return payload;
 }
 

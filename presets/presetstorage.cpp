@@ -48,6 +48,12 @@ QString digestText(const QString& body)
     return QString::fromUtf8(hash.constData(), static_cast<int>(qstrnlen(hash.constData(), hash.size())));
 }
 
+int endOfLine(const QString& text, int start)
+{
+    const int found = text.indexOf(lineFeed, start);
+    return found < 0 ? text.size() : found;
+}
+
 } // namespace
 
 PresetStorage::PresetStorage(QObject* parent)
@@ -102,10 +108,16 @@ bool PresetStorage::plLoadPlain(QTextStream& file)
 
 bool PresetStorage::plLoadEnciphered(QTextStream& file)
 {
-    const QString bodyLine = file.readLine(longestLine);
-    const QString digestLine = file.readLine(longestLine);
+    // Both lines at once: the stream takes as long to look for the end of a line as the cipher does for the
+    // line.
+    QString lines = file.read(longestLine);
+    const int bodyEnd = endOfLine(lines, 0);
+    const int digestEnd = endOfLine(lines, bodyEnd + 1);
+    const QString digestLine = lines.mid(bodyEnd + 1, digestEnd - bodyEnd - 1);
+    lines.truncate(bodyEnd);
+
     ChainCipher cipher(cipherKey);
-    const QString body = cipher.decipherToText(bodyLine);
+    const QString body = cipher.decipherToText(lines);
     const QString digest = cipher.decipherToText(digestLine);
     if (digestText(body) != digest) {
         qWarning() << "Checksum mismatch. Skipping file.";
@@ -119,8 +131,7 @@ void PresetStorage::plTakeBody(const QString& body)
 {
     int start = 0;
     while (start <= body.size()) {
-        const int found = body.indexOf(lineFeed, start);
-        const int end = found < 0 ? body.size() : found;
+        const int end = endOfLine(body, start);
         plTakeLine(body.midRef(start, end - start));
         start = end + 1;
     }

@@ -1,0 +1,81 @@
+// Changes that keep an input worth deciphering.
+
+#include "mutation.h"
+
+#include "presets/referencecipher.h"
+
+#include <QtEndian>
+
+#include <cstring>
+
+extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
+
+namespace {
+
+constexpr int growth = 64;
+constexpr int mostPlain = 1 << 16;
+constexpr int allFlags = 8;
+
+/// The data that a cipher text carries, whatever its integrity field says.
+QByteArray dataOf(quint64 key, const QByteArray& cipher)
+{
+    const int flags = cipher.size() > 1 ? cipher.at(1) : 0;
+    const int fieldSize = flags & ReferenceCipher::Checksum ? 2 : flags & ReferenceCipher::Hash ? 20 : 0;
+    return ReferenceCipher::unchained(key, cipher.mid(2)).mid(1 + fieldSize);
+}
+
+bool isTooLarge(quint64 key, const QByteArray& cipher)
+{
+    const QByteArray data = dataOf(key, cipher);
+    return cipher.size() > 1 && cipher.at(1) & ReferenceCipher::Compressed &&
+           (data.size() < 4 || qFromBigEndian<quint32>(data.constData()) > mostPlain);
+}
+
+} // namespace
+
+QByteArray mutated(const QByteArray& data)
+{
+    QByteArray result = data;
+    result.resize(data.size() + growth);
+    const std::size_t size =
+        LLVMFuzzerMutate(reinterpret_cast<std::uint8_t*>(result.data()),
+                         static_cast<std::size_t>(data.size()), static_cast<std::size_t>(result.size()));
+    result.truncate(static_cast<int>(size));
+    return result;
+}
+
+QByteArray plainOf(quint64 key, const QByteArray& cipher)
+{
+    QByteArray plain;
+    if (isTooLarge(key, cipher) || !ReferenceCipher::decipher(key, cipher, &plain))
+        plain.clear();
+    return plain;
+}
+
+QByteArray mutatedCipher(quint64 key, const QByteArray& cipher, QRandomGenerator* random)
+{
+    const int flags = random->bounded(allFlags);
+    const char randomByte = static_cast<char>(random->generate());
+    if (random->bounded(2))
+        return ReferenceCipher::wrap(key, mutated(dataOf(key, cipher)), flags, randomByte);
+    return ReferenceCipher::encipher(key, mutated(plainOf(key, cipher)), flags, randomByte);
+}
+
+std::size_t mutateInPlace(std::uint8_t* data, std::size_t size, std::size_t maxSize, unsigned int seed,
+                          Mutation repairing)
+{
+    QRandomGenerator random(seed);
+    if (random.bounded(4) == 0)
+        return LLVMFuzzerMutate(data, size, maxSize);
+    const QByteArray input(reinterpret_cast<const char*>(data), static_cast<int>(size));
+    const QByteArray result = repairing(input, &random);
+    if (static_cast<std::size_t>(result.size()) > maxSize)
+        return LLVMFuzzerMutate(data, size, maxSize);
+    std::memcpy(data, result.constData(), static_cast<std::size_t>(result.size()));
+    return static_cast<std::size_t>(result.size());
+}
+
+void silenceLog()
+{
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+}
