@@ -27,8 +27,8 @@ public:
     /// Reads a file into the table. A version 2.0 file is merged into it, and one that is refused leaves the
     /// table alone; a version 1.0 file replaces it.
     bool load(const QString& path);
-    /// Writes the whole table as version 2.0. False, and the file left as it was, if it can't be opened or the
-    /// table is larger than the toolkit can encipher; whether the writing succeeds isn't looked at.
+    /// Writes the whole table as version 2.0. False, and the file left as it was, if it can't be opened or
+    /// the table is larger than the toolkit can encipher; whether the writing succeeds isn't looked at.
     bool save(const QString& path);
 
 private:
