@@ -1,24 +1,33 @@
 # The window as it stands: its form, its states, the setup panel, the text lines; and the program as a whole.
 brumalogger_add_test(tst_devicetext SOURCES tst_devicetext.cpp LINK brumalogger_app)
 brumalogger_add_test(tst_stepprogress SOURCES tst_stepprogress.cpp LINK brumalogger_app X11)
-foreach(concern form layout shell changes copying setup range texts)
+foreach(concern form layout shell changes copying setup range texts zone)
   brumalogger_add_test(tst_mainwindow_${concern} SOURCES tst_mainwindow_${concern}.cpp
     LINK brumalogger_proceduretests MOCK X11)
 endforeach()
 foreach(concern setup range)
   target_sources(tst_mainwindow_${concern} PRIVATE setuppanel.cpp setuppanel.h)
 endforeach()
+brumalogger_add_test(tst_mainwindow_settings SOURCES tst_mainwindow_settings.cpp
+  LINK brumalogger_proceduretests
+  MOCK NETWORK X11
+)
+brumalogger_add_test(tst_mainwindow_time SOURCES tst_mainwindow_time.cpp
+  LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time
+  MOCK NETWORK X11
+)
 target_compile_definitions(tst_mainwindow_layout PRIVATE FORM_FILE="${PROJECT_SOURCE_DIR}/app/mainwindow.ui")
 
 # Closing a window from outside takes a real X server, and the test is a client of it like the program itself.
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
 add_executable(tst_program tst_program.cpp)
-target_link_libraries(tst_program PRIVATE Qt5::Test PkgConfig::XCB)
+target_link_libraries(tst_program PRIVATE brumalogger_testsupport PkgConfig::XCB)
 target_compile_definitions(tst_program PRIVATE PROGRAM_FILE="$<TARGET_FILE:brumalogger-config-gui>")
 add_dependencies(tst_program brumalogger-config-gui)
 set(folder ${CMAKE_CURRENT_BINARY_DIR}/tst_program_folder)
 file(MAKE_DIRECTORY ${folder})
-add_test(NAME tst_program_x11 COMMAND ${PROJECT_SOURCE_DIR}/tests/on-x-server $<TARGET_FILE:tst_program>
+add_test(NAME tst_program_x11
+  COMMAND ${PROJECT_SOURCE_DIR}/tests/network/in-private-network ${PROJECT_SOURCE_DIR}/tests/on-x-server $<TARGET_FILE:tst_program>
   WORKING_DIRECTORY ${folder})
 set_tests_properties(tst_program_x11 PROPERTIES ENVIRONMENT "${test_environment}" TIMEOUT 600)

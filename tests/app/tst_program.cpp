@@ -2,6 +2,8 @@
 //
 // Runs on an X server, where a window can be closed from outside as a window manager does it.
 
+#include "support/workfolder.h"
+
 #include <QByteArray>
 #include <QProcess>
 #include <QScopedPointer>
@@ -129,6 +131,7 @@ private slots:
     void runsUntilItsWindowIsClosed();
     void ignoresItsArguments_data();
     void ignoresItsArguments();
+    void keepsItsSettingsFromStartToStart();
 
 private:
     /// Starts the program and waits for its window; 0 if none came.
@@ -137,6 +140,7 @@ private:
 
     QScopedPointer<Screen> screen;
     QScopedPointer<QProcess> program;
+    QScopedPointer<WorkFolder> folder;
 };
 
 // Stays connected all the time: an X server without clients starts all over again.
@@ -155,6 +159,7 @@ void TestProgram::cleanupTestCase()
 void TestProgram::init()
 {
     program.reset(new QProcess);
+    folder.reset(new WorkFolder({{QStringLiteral("fontsize"), QStringLiteral("9")}}));
 }
 
 void TestProgram::cleanup()
@@ -164,6 +169,7 @@ void TestProgram::cleanup()
         program->waitForFinished();
     }
     program.reset();
+    folder.reset();
 }
 
 xcb_window_t TestProgram::start(const QStringList& arguments)
@@ -225,6 +231,29 @@ void TestProgram::ignoresItsArguments()
     QCOMPARE(program->exitCode(), 0);
     QCOMPARE(program->readAllStandardOutput(), QByteArray());
     QCOMPARE(program->readAllStandardError(), plainErrors);
+}
+
+void TestProgram::keepsItsSettingsFromStartToStart()
+{
+    const Settings settings{{QStringLiteral("fontsize"), QStringLiteral("11")},
+                            {QStringLiteral("preseten"), QStringLiteral("1")},
+                            {QStringLiteral("presetpath"), QStringLiteral("/größer/some.bpr")},
+                            {QStringLiteral("timeserver"), QStringLiteral("stdtime.gov.hk")},
+                            {QStringLiteral("disabletime"), QStringLiteral("1")},
+                            {QStringLiteral("useserverpool"), QStringLiteral("0")},
+                            {QStringLiteral("disablefast"), QStringLiteral("1")},
+                            {QStringLiteral("language"), QStringLiteral("en_us")},
+                            {QStringLiteral("winwidth"), QStringLiteral("910")},
+                            {QStringLiteral("winheight"), QStringLiteral("805")}};
+    folder.reset();
+    folder.reset(new WorkFolder(settings));
+    for (int round = 0; round < 2; round++) {
+        const xcb_window_t window = start({});
+        QVERIFY(window != 0);
+        QCOMPARE(screen->sizeOf(window), QSize(910, 805));
+        QVERIFY(end(window));
+        QCOMPARE(WorkFolder::configuration(), settings);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestProgram)
