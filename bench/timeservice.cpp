@@ -77,6 +77,10 @@ int main(int argc, char* argv[])
     const QCoreApplication application(argc, argv);
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
 
+    const QStringList servers = application.arguments().mid(1);
+    if (servers.isEmpty())
+        qFatal("usage: bench_time SERVER...");
+
     const TimeManager manager;
     const QDateTime device = manager.currentTimeUtc().addSecs(9 * 3600);
     printCost("decode an answer to its reference time", decode);
@@ -84,7 +88,7 @@ int main(int argc, char* argv[])
     printCost("zone of a device's clock",
               [&](int) { return manager.matchTimeZoneByDateTime(device.date(), device.time()).offset; });
 
-    const auto msecs = repeated([&] { return poolQueryMsecs(application.arguments().mid(1)); });
+    const auto msecs = repeated([&] { return poolQueryMsecs(servers); });
     std::printf("%-40s %8.1f ms; the first, with its look-ups, %.1f ms\n", "pool of servers, query to result",
                 median(msecs), msecs.front());
     return 0;

@@ -51,6 +51,7 @@ public:
     /// How far the client's clock is behind the server's, in milliseconds.
     qint64 localClockOffset() const;
 
+    /// True for a reply that never arrived.
     bool isNull() const;
 
     /// All that was received, with the fields that have no reading here.

@@ -17,6 +17,7 @@ TimeManager::TimeManager(QObject* parent)
 TimeManager::~TimeManager()
 {
     qDeleteAll(poolWorkers);
+    qDeleteAll(retiredWorkers);
 }
 
 void TimeManager::queryServer(const QString& host)
@@ -50,20 +51,36 @@ void TimeManager::plFinishQuery(bool succesful)
     querying = false;
     querySuccesful = succesful;
     queryTimedOut = !succesful;
+
+    reports++;
     if (succesful)
         emit sQuerySuccesful();
     else
         emit sQueryTimeout();
+    reports--;
+    if (reports == 0)
+        plReleaseRetiredWorkers();
 }
 
+// Whoever hears of a query's end may start the next one, also from an event loop of its own. The worker that
+// brought the end is still at it then, and can't go before that is over.
 void TimeManager::plDropPoolWorkers()
 {
-    // The query may be started by whoever hears of a worker's answer, and a worker can't go while it answers.
-    for (TimePoolWorker* worker : qAsConst(poolWorkers)) {
-        worker->disconnect(this);
-        worker->deleteLater();
+    if (reports == 0) {
+        qDeleteAll(poolWorkers);
+    } else {
+        for (TimePoolWorker* worker : qAsConst(poolWorkers))
+            worker->disconnect(this);
+        retiredWorkers += poolWorkers;
     }
     poolWorkers.clear();
+}
+
+void TimeManager::plReleaseRetiredWorkers()
+{
+    for (TimePoolWorker* worker : qAsConst(retiredWorkers))
+        worker->deleteLater();
+    retiredWorkers.clear();
 }
 
 void TimeManager::plAddPoolWorker(const QString& host)

@@ -12,11 +12,14 @@
 /// Until a query succeeds the reference time is the computer's clock; from then on it is the computer's clock
 /// at the offset that the last answer gave. A failed query changes nothing but the flags. A query of hosts
 /// that don't resolve never ends.
+///
+/// A query may be started from within either signal; the manager itself must not go there.
 class TimeManager : public QObject
 {
     Q_OBJECT
 
 public:
+    /// Shows the computer's time and asks nobody yet.
     explicit TimeManager(QObject* parent = nullptr);
     ~TimeManager() override;
 
@@ -29,6 +32,7 @@ public:
 
     /// The last finished query produced a time.
     bool isQuerySuccesful() const;
+    /// A query is under way.
     bool isQuerying() const;
     /// The last finished query failed.
     bool isQueryTimedOut() const;
@@ -37,9 +41,12 @@ public:
     /// Host of the last single-server query; empty from the start of a pool query on.
     QString serverName() const;
 
+    /// The reference time as of its clock's last tick, in UTC.
     QDateTime currentTimeUtc() const;
+    /// The same instant in the computer's zone.
     QDateTime currentTimeLocal() const;
 
+    /// The table; its first row is the program's default zone.
     const QList<TimeZoneMatch>& timeZones() const;
     /// The row nearest to @p offset, in seconds east of UTC; the earlier row of two as near. The empty result
     /// if every row is half a day or more away.
@@ -66,6 +73,7 @@ private:
     void plStartQuery(const QString& server, bool pool);
     void plFinishQuery(bool succesful);
     void plDropPoolWorkers();
+    void plReleaseRetiredWorkers();
     void plAddPoolWorker(const QString& host);
 
     QString queriedServer;
@@ -75,6 +83,8 @@ private:
     TimeKeeper keeper;
     QList<TimeZoneMatch> zones;
     QList<TimePoolWorker*> poolWorkers;
+    QList<TimePoolWorker*> retiredWorkers; ///< of queries before, dropped while one of them reported
+    int reports = 0;                       ///< reports of a query's end that are under way
     bool querying = false;
     bool querySuccesful = false;
     bool queryTimedOut = false;

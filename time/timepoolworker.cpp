@@ -24,7 +24,8 @@ void TimePoolWorker::query(const QString& host)
 {
     this->host = host;
     qDebug() << "[PoolWorker] Querying:" << host;
-    QHostInfo::lookupHost(host, this, &TimePoolWorker::plOnServerInfo);
+    // By the slot's name: with its address, a look-up that outlives the worker leaves memory behind.
+    QHostInfo::lookupHost(host, this, SLOT(plOnServerInfo(QHostInfo)));
     timeoutTimer.start(queryTimeout);
 }
 
