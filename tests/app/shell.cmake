@@ -16,6 +16,10 @@ brumalogger_add_test(tst_mainwindow_time SOURCES tst_mainwindow_time.cpp
   LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time
   MOCK NETWORK X11
 )
+brumalogger_add_test(tst_mainwindow_servers SOURCES tst_mainwindow_servers.cpp
+  LINK brumalogger_proceduretests
+  MOCK TIME_SERVERS
+)
 target_compile_definitions(tst_mainwindow_layout PRIVATE FORM_FILE="${PROJECT_SOURCE_DIR}/app/mainwindow.ui")
 
 # Closing a window from outside takes a real X server, and the test is a client of it like the program itself.

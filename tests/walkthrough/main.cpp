@@ -17,6 +17,8 @@
 
 namespace {
 
+constexpr int timePatience = 30000; // milliseconds
+
 class Walk
 {
 public:
@@ -34,7 +36,9 @@ private:
     void type(const char* line, const QString& text);
     void setValue(const char* spinBox, const QString& value);
     void edit();
-    bool check(const QString& stage, const QString& status);
+    QString status() const { return find<QStatusBar>("statusBar")->currentMessage(); }
+    bool check(const QString& stage, const QString& expected);
+    int fail(const QString& stage) const;
     void takePicture(const QString& name);
 
     MainWindow window;
@@ -47,6 +51,9 @@ int Walk::run()
     if (!QTest::qWaitForWindowExposed(&window))
         return 1;
     QApplication::setActiveWindow(&window); // there is no window manager to do it
+    const QString fetched = QStringLiteral("Successfully fetched time and date from time.google.com.");
+    if (!QTest::qWaitFor([&] { return status() == fetched; }, timePatience))
+        return fail(QStringLiteral("time"));
     QTest::keyClick(&window, Qt::Key_K, Qt::ControlModifier);
     if (!check(QStringLiteral("connected"), QStringLiteral("Connected to device on ttyACM0")))
         return 1;
@@ -102,17 +109,20 @@ void Walk::setValue(const char* spinBox, const QString& value)
     box->findChild<QLineEdit*>()->deselect();
 }
 
-bool Walk::check(const QString& stage, const QString& status)
+bool Walk::check(const QString& stage, const QString& expected)
 {
     takePicture(stage);
-    const QString actual = find<QStatusBar>("statusBar")->currentMessage();
-    if (actual == status && robot.problems().isEmpty()) {
-        std::printf("%s: %s\n", qPrintable(stage), qPrintable(actual));
-        return true;
-    }
-    std::fprintf(stderr, "%s: the status is \"%s\"\n%s\n", qPrintable(stage), qPrintable(actual),
+    if (status() != expected || !robot.problems().isEmpty())
+        return fail(stage) == 0;
+    std::printf("%s: %s\n", qPrintable(stage), qPrintable(expected));
+    return true;
+}
+
+int Walk::fail(const QString& stage) const
+{
+    std::fprintf(stderr, "%s: the status is \"%s\"\n%s\n", qPrintable(stage), qPrintable(status()),
                  qPrintable(robot.problems()));
-    return false;
+    return 1;
 }
 
 void Walk::takePicture(const QString& name)
