@@ -39,7 +39,7 @@ public:
         , dialog(window.findChild<SettingsDialog*>())
     {
     }
-    void check(const char* box, bool checked = true) { find<QCheckBox>(box)->setChecked(checked); }
+    void check(const char* box, bool checked = true) { child<QCheckBox>(*dialog, box)->setChecked(checked); }
     /// Milliseconds that a connect takes by the program's clock.
     qint64 connectTime()
     {
@@ -90,8 +90,8 @@ void TestMainWindowSettings::actionOpensTheDialog()
     bool wasModal = false;
     atNextChance(rig.dialog, [&] {
         wasModal = QApplication::activeModalWidget() == rig.dialog;
-        rig.find<QSpinBox>("spinFont")->setValue(19);
-        QTest::mouseClick(rig.find<QDialogButtonBox>("buttonBox")->button(QDialogButtonBox::Ok),
+        child<QSpinBox>(*rig.dialog, "spinFont")->setValue(19);
+        QTest::mouseClick(child<QDialogButtonBox>(*rig.dialog, "buttonBox")->button(QDialogButtonBox::Ok),
                           Qt::LeftButton);
     });
     rig.find<QAction>("actionSettings")->trigger();
@@ -106,7 +106,7 @@ void TestMainWindowSettings::fontSizeIsTheWindows()
     QCOMPARE(rig.window.styleSheet(), QStringLiteral("font-size: 14pt"));
     QCOMPARE(rig.find<QPushButton>("buttonRead")->font().pointSize(), 14);
     QCOMPARE(rig.dialog->font().pointSize(), 14);
-    rig.find<QSpinBox>("spinFont")->setValue(16);
+    child<QSpinBox>(*rig.dialog, "spinFont")->setValue(16);
     QCOMPARE(rig.find<QPushButton>("buttonRead")->font().pointSize(), 14);
     rig.dialog->accept();
     QCOMPARE(rig.find<QPushButton>("buttonRead")->font().pointSize(), 16);
@@ -172,9 +172,9 @@ void TestMainWindowSettings::disabledControlsStayAlone()
 {
     Rig rig;
     rig.check("checkPreset");
-    rig.find<QLineEdit>("lineFilename")->setText(key("some.bpr"));
+    child<QLineEdit>(*rig.dialog, "lineFilename")->setText(key("some.bpr"));
     rig.check("checkDisableTime", false);
-    rig.find<QSpinBox>("spinFont")->setValue(18);
+    child<QSpinBox>(*rig.dialog, "spinFont")->setValue(18);
     rig.dialog->accept();
     QVERIFY(!rig.isEnabled("buttonPreset"));
     QVERIFY(!rig.find<QToolButton>("buttonToolTimeZone")->isEnabled());
@@ -239,8 +239,8 @@ void TestMainWindowSettings::nextStartFindsItAll()
 {
     Rig rig;
     rig.window.resize(930, 820);
-    rig.find<QSpinBox>("spinFont")->setValue(15);
-    rig.find<QLineEdit>("lineFilename")->setText(QStringLiteral("/größer/preset.bpr"));
+    child<QSpinBox>(*rig.dialog, "spinFont")->setValue(15);
+    child<QLineEdit>(*rig.dialog, "lineFilename")->setText(QStringLiteral("/größer/preset.bpr"));
     rig.check("checkPreset");
     rig.dialog->accept();
     QVERIFY(rig.window.close());
@@ -257,7 +257,7 @@ void TestMainWindowSettings::languagesGoToTheDialog()
 {
     Rig rig;
     rig.window.lSetLanguages({{key("en_us"), {key("English (US)"), key("en")}}});
-    QCOMPARE(rig.find<QComboBox>("comboLanguage")->itemText(0), key("English (US)"));
+    QCOMPARE(child<QComboBox>(*rig.dialog, "comboLanguage")->itemText(0), key("English (US)"));
 }
 
 QTEST_MAIN(TestMainWindowSettings)

@@ -78,7 +78,7 @@ public:
         , dialog(window.findChild<SettingsDialog*>())
     {
     }
-    void check(const char* box, bool checked) { find<QCheckBox>(box)->setChecked(checked); }
+    void check(const char* box, bool checked) { child<QCheckBox>(*dialog, box)->setChecked(checked); }
     bool comesTo(const QString& message)
     {
         return QTest::qWaitFor([&] { return status() == message; }, queryPatience);
@@ -191,7 +191,7 @@ void TestMainWindowTime::otherServerIsAsked()
     servers.answer(NtpAnswer::currentTime());
     Rig rig(timeSettings());
     QVERIFY(rig.comesTo(fetchedServer));
-    rig.find<QComboBox>("comboServerList")->setCurrentIndex(3);
+    child<QComboBox>(*rig.dialog, "comboServerList")->setCurrentIndex(3);
     rig.dialog->accept();
     QCOMPARE(rig.status(), QStringLiteral("Fetching time and date from 0.pool.ntp.org..."));
     QVERIFY(rig.comesTo(QStringLiteral("Successfully fetched time and date from 0.pool.ntp.org.")));

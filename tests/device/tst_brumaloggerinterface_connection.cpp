@@ -139,7 +139,8 @@ void TestBrumaloggerInterfaceConnection::portInUse()
     ConnectionDesk desk;
     QSerialPort other(ownPortName());
     QVERIFY(other.open(QIODevice::ReadWrite));
-    TestClock::reset(); // the lock's file has the computer's time and would be remarked on as one from the future
+    TestClock::reset(); // the lock's file has the computer's time and would be remarked on as one from the
+                        // future
     const LogRecorder log;
     QVERIFY(!desk.link.lConnect(ownPortName()));
     QVERIFY(!desk.link.lIsConnected());

@@ -5,6 +5,7 @@
 #include "support/testclock.h"
 
 #include <QAction>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressDialog>
@@ -21,6 +22,15 @@ constexpr const char* idleWidgets[] = {"lineSender", "lineRecipient", "lineInfo"
 constexpr const char* idleActions[] = {"actionSave", "actionLoad"};
 
 } // namespace
+
+bool isInADialogOf(const QWidget& window, const QObject* object)
+{
+    for (; object && object != &window; object = object->parent()) {
+        if (qobject_cast<const QDialog*>(object))
+            return true;
+    }
+    return false;
+}
 
 WindowRig::WindowRig(const Settings& settings)
     : folder(settings)

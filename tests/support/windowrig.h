@@ -12,14 +12,19 @@
 
 class QProgressDialog;
 
-/// The object of that name in @p window; without one the test program ends.
+/// True if @p object is part of a dialog that belongs to @p window.
+bool isInADialogOf(const QWidget& window, const QObject* object);
+
+/// The object of that name in @p window, its dialogs apart; without one the test program ends.
 template<typename Object>
 Object* child(const QWidget& window, const char* name)
 {
-    auto* found = window.findChild<Object*>(QLatin1String(name));
-    if (!found)
-        qFatal("nothing named %s", name);
-    return found;
+    for (auto* found : window.findChildren<Object*>(QLatin1String(name))) {
+        if (!isInADialogOf(window, found))
+            return found;
+    }
+    qFatal("nothing named %s", name);
+    return nullptr;
 }
 
 /// A main window, a bench with simulated loggers, and a robot that answers the window's boxes. Widgets go by
