@@ -3,6 +3,7 @@
 #include "app/mainwindow.h"
 
 #include "app/buttonicon.h"
+#include "app/statustipfilter.h"
 #include "device/brumaloggerinterface.h"
 #include "dialogs/settingsdialog.h"
 #include "time/timemanager.h"
@@ -67,6 +68,7 @@ MainWindow::MainWindow(QWidget* parent)
     plInsertLists();
     timeKeeper.setRunning(false);
     plConnectSignals();
+    installEventFilter(new StatusTipFilter(this));
     plSetUpButtons();
     ui->buttonAdvanced->hide();
     settingsDialog->loadSettings();

@@ -5,6 +5,7 @@
 #include "windowstate.h"
 #include "windowwords.h"
 
+#include <QMenu>
 #include <QPushButton>
 #include <QSerialPort>
 #include <QTest>
@@ -26,6 +27,7 @@ private slots:
     void connectsAnewAfterCancelledRead();
     void looksDiffer();
     void stopsClock();
+    void statusStaysWhileTheMouseIsOverAMenu();
 };
 
 void TestMainWindowConnect::connectsAndReads()
@@ -154,6 +156,18 @@ void TestMainWindowConnect::stopsClock()
     QTest::qWait(1500);
     QCOMPARE(rig.text("labelDateTime"), QStringLiteral(" - "));
     QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowConnect::statusStaysWhileTheMouseIsOverAMenu()
+{
+    ProcedureRig rig;
+    rig.plugAndConnect();
+    auto* menu = rig.find<QMenu>("menuFile");
+    menu->popup(rig.window.mapToGlobal(QPoint(0, 0)));
+    for (QAction* action : menu->actions())
+        menu->setActiveAction(action);
+    menu->close();
+    QCOMPARE(rig.status(), connected().status);
 }
 
 QTEST_MAIN(TestMainWindowConnect)
