@@ -101,13 +101,15 @@ bool PresetStorage::plLoadPlain(QTextStream& file)
     table.clear();
     while (!file.atEnd()) {
         const QString line = file.readLine(longestLine);
-        plTakeLine(QStringRef(&line));
+        plTakeLine(line);
     }
     return true;
 }
 
 bool PresetStorage::plLoadEnciphered(QTextStream& file)
 {
+    // The cipher passes over the carriage returns, which the stream would look for one by one.
+    file.device()->setTextModeEnabled(false);
     // Both lines at once: the stream takes as long to look for the end of a line as the cipher does for the
     // line.
     QString lines = file.read(longestLine);
@@ -132,14 +134,14 @@ void PresetStorage::plTakeBody(const QString& body)
     int start = 0;
     while (start <= body.size()) {
         const int end = endOfLine(body, start);
-        plTakeLine(body.midRef(start, end - start));
+        plTakeLine(QStringView(body).mid(start, end - start));
         start = end + 1;
     }
 }
 
-void PresetStorage::plTakeLine(const QStringRef& line)
+void PresetStorage::plTakeLine(QStringView line)
 {
-    const int keyLength = line.indexOf(separator);
+    const qsizetype keyLength = line.indexOf(separator);
     if (keyLength < 0) {
         qDebug() << "Ignoring line: " << line.toString();
         return;

@@ -35,7 +35,7 @@ private:
     bool plLoadPlain(QTextStream& file);
     bool plLoadEnciphered(QTextStream& file);
     void plTakeBody(const QString& body);
-    void plTakeLine(const QStringRef& line);
+    void plTakeLine(QStringView line);
     qint64 plBodyLength() const;
     QString plBody() const;
 

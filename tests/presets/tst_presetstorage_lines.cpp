@@ -5,6 +5,7 @@
 #include "loglines.h"
 #include "presetfiles.h"
 
+#include <QRandomGenerator>
 #include <QTest>
 #include <QTextCodec>
 
@@ -44,6 +45,7 @@ private slots:
     void keysEndAtTheirSeparator();
     void lineFeedsSplitLines();
     void endsOfLinesMayBeWindowsOwn();
+    void carriageReturnsArePassedOverInCipherTexts();
     void carriageReturnsInValuesSurvive();
     void plainFilesAreInTheLocalesCodec();
     void plainFilesMayBeMarkedUnicode();
@@ -148,6 +150,21 @@ void TestPresetStorageLines::endsOfLinesMayBeWindowsOwn()
     PresetStorage storage;
     QVERIFY(storage.load(folder.file(enciphered("a=1\n").replace("\n", "\r\n"))));
     QCOMPARE(contents(storage), Table({{"a", "1"}}));
+}
+
+void TestPresetStorageLines::carriageReturnsArePassedOverInCipherTexts()
+{
+    constexpr int manyTimesTheStreamsBuffer = 200000;
+    QRandomGenerator random(6);
+    QByteArray value;
+    while (value.size() < manyTimesTheStreamsBuffer)
+        value.append(static_cast<char>('a' + random.bounded(26)));
+    const QByteArray file = enciphered("a=" + value).replace("A", "\rA\r").replace("\n", "\r\r\n");
+    QVERIFY(file.size() > manyTimesTheStreamsBuffer / 2);
+    const Folder folder;
+    PresetStorage storage;
+    QVERIFY(storage.load(folder.file(file)));
+    QCOMPARE(contents(storage), Table({{"a", value}}));
 }
 
 void TestPresetStorageLines::carriageReturnsInValuesSurvive()
