@@ -43,6 +43,7 @@ private slots:
     void binaryLinesAreAMismatch();
     void enormousFiles_data();
     void enormousFiles();
+    void endlessFileIsRefused();
     void enormousTableComesBack();
     void forgedLengthIsAMismatch_data();
     void forgedLengthIsAMismatch();
@@ -175,6 +176,15 @@ void TestPresetStorageFiles::enormousFiles()
     const LogLines log;
     QVERIFY(!PresetStorage().load(path));
     QVERIFY2(log.last().contains(last), qPrintable(log.last()));
+}
+
+void TestPresetStorageFiles::endlessFileIsRefused()
+{
+    // One line, which no text could hold.
+    const QString path = QStringLiteral("/dev/zero");
+    const LogLines log;
+    QVERIFY(!PresetStorage().load(path));
+    QCOMPARE(log.all(), QStringList("debug: READING =  \"" + path + "\""));
 }
 
 void TestPresetStorageFiles::enormousTableComesBack()
