@@ -28,7 +28,7 @@ bool isRunning(qint64 process)
 
 } // namespace
 
-class tst_NetworkScripts : public QObject
+class TestNetworkScripts : public QObject
 {
     Q_OBJECT
 
@@ -52,20 +52,20 @@ private:
     QProcess process;
 };
 
-void tst_NetworkScripts::cleanup()
+void TestNetworkScripts::cleanup()
 {
     process.kill();
     process.waitForFinished();
     process.setProcessEnvironment({});
 }
 
-void tst_NetworkScripts::run(const QStringList& command)
+void TestNetworkScripts::run(const QStringList& command)
 {
     process.start(command.first(), command.mid(1));
     QVERIFY2(process.waitForFinished(), qPrintable(process.errorString()));
 }
 
-void tst_NetworkScripts::passesOnTheCommandAndItsResult()
+void TestNetworkScripts::passesOnTheCommandAndItsResult()
 {
     run({privateNetwork, timeServers, "sh", "-c", "printf '%s.' \"$@\"; exit 42", "sh", "--only", "two words",
          ""});
@@ -74,7 +74,7 @@ void tst_NetworkScripts::passesOnTheCommandAndItsResult()
     QCOMPARE(process.exitCode(), 42);
 }
 
-void tst_NetworkScripts::leavesTheComputerAlone()
+void TestNetworkScripts::leavesTheComputerAlone()
 {
     const QStringList paths{QStringLiteral("/proc/self/mountinfo"), QStringLiteral("/etc/hosts"),
                             QStringLiteral("/etc/nsswitch.conf")};
@@ -90,14 +90,14 @@ void tst_NetworkScripts::leavesTheComputerAlone()
     QCOMPARE(process.exitCode(), 0);
 }
 
-void tst_NetworkScripts::canBeNested()
+void TestNetworkScripts::canBeNested()
 {
     run({privateNetwork, timeServers, privateNetwork, timeServers, "true"});
     QCOMPARE(process.readAllStandardError(), QByteArray());
     QCOMPARE(process.exitCode(), 0);
 }
 
-void tst_NetworkScripts::saysThatThereAreNoNamespaces()
+void TestNetworkScripts::saysThatThereAreNoNamespaces()
 {
     QTemporaryDir folder;
     QVERIFY(QFile::link(QStringLiteral("/bin/false"), folder.filePath("unshare")));
@@ -112,7 +112,7 @@ void tst_NetworkScripts::saysThatThereAreNoNamespaces()
             "in-private-network: this computer allows neither network namespaces nor user namespaces\n"));
 }
 
-void tst_NetworkScripts::saysThatTheNetworkIsMissing()
+void TestNetworkScripts::saysThatTheNetworkIsMissing()
 {
     run({timeServers, "true"});
     QCOMPARE(process.exitCode(), 1);
@@ -121,14 +121,14 @@ void tst_NetworkScripts::saysThatTheNetworkIsMissing()
         QByteArray("with-time-servers: this is not the private network; run it by in-private-network\n"));
 }
 
-void tst_NetworkScripts::saysThatAServerCannotStart()
+void TestNetworkScripts::saysThatAServerCannotStart()
 {
     run({privateNetwork, timeServers, "--only", "nowhere", "true"});
     QCOMPARE(process.exitCode(), 1);
     QVERIFY(process.readAllStandardError().endsWith("with-time-servers: chronyd ended at nowhere\n"));
 }
 
-void tst_NetworkScripts::choosesServers_data()
+void TestNetworkScripts::choosesServers_data()
 {
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QList<int>>("servers");
@@ -139,7 +139,7 @@ void tst_NetworkScripts::choosesServers_data()
     QTest::newRow("two") << QStringList{"--only", "127.1.0.7", "--only", "127.1.0.3"} << QList<int>{3, 7};
 }
 
-void tst_NetworkScripts::choosesServers()
+void TestNetworkScripts::choosesServers()
 {
     QFETCH(QStringList, options);
     QFETCH(QList<int>, servers);
@@ -151,7 +151,7 @@ void tst_NetworkScripts::choosesServers()
         QVERIFY(sockets.contains("0" + QByteArray::number(server) + "00017F:007B"));
 }
 
-void tst_NetworkScripts::serversEndWithTheCommand_data()
+void TestNetworkScripts::serversEndWithTheCommand_data()
 {
     QTest::addColumn<int>("signal");
     QTest::newRow("killed") << SIGKILL;
@@ -159,7 +159,7 @@ void tst_NetworkScripts::serversEndWithTheCommand_data()
     QTest::newRow("of itself") << 0;
 }
 
-void tst_NetworkScripts::serversEndWithTheCommand()
+void TestNetworkScripts::serversEndWithTheCommand()
 {
     QFETCH(int, signal);
     process.start(privateNetwork, {timeServers, "sh", "-c",
@@ -179,5 +179,5 @@ void tst_NetworkScripts::serversEndWithTheCommand()
         QTRY_VERIFY(!isRunning(server.toLongLong()));
 }
 
-QTEST_GUILESS_MAIN(tst_NetworkScripts)
+QTEST_GUILESS_MAIN(TestNetworkScripts)
 #include "tst_networkscripts.moc"

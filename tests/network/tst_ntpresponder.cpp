@@ -34,7 +34,7 @@ QDateTime timeAt(const QByteArray& bytes, int offset)
 
 } // namespace
 
-class tst_NtpResponder : public QObject
+class TestNtpResponder : public QObject
 {
     Q_OBJECT
 
@@ -71,7 +71,7 @@ private:
     QScopedPointer<QUdpSocket> client;
 };
 
-void tst_NtpResponder::init()
+void TestNtpResponder::init()
 {
     responder.reset(new NtpResponder);
     QVERIFY2(responder->listen(serverAddress), qPrintable(responder->errorString()));
@@ -79,13 +79,13 @@ void tst_NtpResponder::init()
     QVERIFY(client->bind(QHostAddress(QHostAddress::LocalHost)));
 }
 
-void tst_NtpResponder::cleanup()
+void TestNtpResponder::cleanup()
 {
     expectSilence();
 }
 
 /// Sends @p bytes and returns when the responder has dealt with it.
-void tst_NtpResponder::ask(const QByteArray& bytes)
+void TestNtpResponder::ask(const QByteArray& bytes)
 {
     QSignalSpy requested(responder.data(), &NtpResponder::requested);
     QCOMPARE(client->writeDatagram(bytes, serverAddress, 123), bytes.size());
@@ -93,20 +93,20 @@ void tst_NtpResponder::ask(const QByteArray& bytes)
 }
 
 /// The next answer; invalid if there is none.
-QNetworkDatagram tst_NtpResponder::reply()
+QNetworkDatagram TestNtpResponder::reply()
 {
     const bool there = client->hasPendingDatagrams() || client->waitForReadyRead(5000);
     return there ? client->receiveDatagram() : QNetworkDatagram();
 }
 
 /// No answer is on its way: what is sent now comes next.
-void tst_NtpResponder::expectSilence()
+void TestNtpResponder::expectSilence()
 {
     QVERIFY(responder->send("marker", QHostAddress(QHostAddress::LocalHost), client->localPort()));
     QCOMPARE(reply().data(), QByteArray("marker"));
 }
 
-void tst_NtpResponder::packetHasEachFieldInItsPlace()
+void TestNtpResponder::packetHasEachFieldInItsPlace()
 {
     NtpPacket packet;
     packet.leap = 3;
@@ -127,7 +127,7 @@ void tst_NtpResponder::packetHasEachFieldInItsPlace()
                                                   "202122232425262728292a2b2c2d2e2f"));
 }
 
-void tst_NtpResponder::timestampKeepsMilliseconds_data()
+void TestNtpResponder::timestampKeepsMilliseconds_data()
 {
     QTest::addColumn<QDateTime>("time");
     QTest::addColumn<quint64>("stamp");
@@ -139,21 +139,21 @@ void tst_NtpResponder::timestampKeepsMilliseconds_data()
     QTest::newRow("other zone") << epoch.toTimeZone(QTimeZone(3600)) << quint64(0x83aa7e8000000000);
 }
 
-void tst_NtpResponder::timestampKeepsMilliseconds()
+void TestNtpResponder::timestampKeepsMilliseconds()
 {
     QFETCH(QDateTime, time);
     QFETCH(quint64, stamp);
     QCOMPARE(ntpTimestamp(time), stamp);
 }
 
-void tst_NtpResponder::timestampWrapsIn2036()
+void TestNtpResponder::timestampWrapsIn2036()
 {
     const QDateTime wrap(QDate(2036, 2, 7), QTime(6, 28, 16), Qt::UTC);
     QCOMPARE(ntpTimestamp(wrap), quint64(0));
     QCOMPARE(ntpTimestamp(wrap.addSecs(-1)), quint64(0xffffffff00000000));
 }
 
-void tst_NtpResponder::keepsAndAnnouncesRequests()
+void TestNtpResponder::keepsAndAnnouncesRequests()
 {
     const auto before = QDateTime::currentDateTimeUtc();
     ask("first");
@@ -169,13 +169,13 @@ void tst_NtpResponder::keepsAndAnnouncesRequests()
     QVERIFY(requests.at(1).arrival <= QDateTime::currentDateTimeUtc());
 }
 
-void tst_NtpResponder::isSilentWithoutPlan()
+void TestNtpResponder::isSilentWithoutPlan()
 {
     ask();
     expectSilence();
 }
 
-void tst_NtpResponder::refusesAnAddressThatIsTaken()
+void TestNtpResponder::refusesAnAddressThatIsTaken()
 {
     NtpResponder second;
     QVERIFY(!second.listen(serverAddress));
@@ -184,7 +184,7 @@ void tst_NtpResponder::refusesAnAddressThatIsTaken()
     QVERIFY(second.port() != 0 && second.port() != 123);
 }
 
-void tst_NtpResponder::answersWithPacket()
+void TestNtpResponder::answersWithPacket()
 {
     auto packet = NtpPacket::at(someMoment());
     packet.leap = 1;
@@ -201,7 +201,7 @@ void tst_NtpResponder::answersWithPacket()
     QCOMPARE(timeAt(datagram.data(), 40), someMoment());
 }
 
-void tst_NtpResponder::keepsAnOriginateTimestampThatIsGiven()
+void TestNtpResponder::keepsAnOriginateTimestampThatIsGiven()
 {
     NtpPacket packet;
     packet.originate = 1;
@@ -210,7 +210,7 @@ void tst_NtpResponder::keepsAnOriginateTimestampThatIsGiven()
     QCOMPARE(reply().data(), packet.toBytes());
 }
 
-void tst_NtpResponder::answersWithCurrentTime()
+void TestNtpResponder::answersWithCurrentTime()
 {
     constexpr qint64 hour = 3600000;
     responder->setAnswer(NtpAnswer::currentTime(hour));
@@ -224,7 +224,7 @@ void tst_NtpResponder::answersWithCurrentTime()
     QVERIFY(timeAt(bytes, 40) <= after.addMSecs(hour));
 }
 
-void tst_NtpResponder::answersWithAnyDatagram_data()
+void TestNtpResponder::answersWithAnyDatagram_data()
 {
     QTest::addColumn<QByteArray>("datagram");
     QTest::newRow("empty") << QByteArray();
@@ -233,7 +233,7 @@ void tst_NtpResponder::answersWithAnyDatagram_data()
     QTest::newRow("several packets' worth") << QByteArray(9000, 'c');
 }
 
-void tst_NtpResponder::answersWithAnyDatagram()
+void TestNtpResponder::answersWithAnyDatagram()
 {
     QFETCH(QByteArray, datagram);
     responder->setAnswer(NtpAnswer::datagram(datagram));
@@ -243,7 +243,7 @@ void tst_NtpResponder::answersWithAnyDatagram()
     QCOMPARE(got.data(), datagram);
 }
 
-void tst_NtpResponder::followsThePlanAndStaysWithItsEnd()
+void TestNtpResponder::followsThePlanAndStaysWithItsEnd()
 {
     responder->setPlan({NtpAnswer::datagram("one"), NtpAnswer::silence(), NtpAnswer::datagram("last")});
     ask();
@@ -256,7 +256,7 @@ void tst_NtpResponder::followsThePlanAndStaysWithItsEnd()
     }
 }
 
-void tst_NtpResponder::repeatsAnAnswer()
+void TestNtpResponder::repeatsAnAnswer()
 {
     responder->setAnswer(NtpAnswer::datagram("again").times(3));
     ask();
@@ -264,7 +264,7 @@ void tst_NtpResponder::repeatsAnAnswer()
         QCOMPARE(reply().data(), QByteArray("again"));
 }
 
-void tst_NtpResponder::answersFromElsewhere()
+void TestNtpResponder::answersFromElsewhere()
 {
     responder->setPlan({NtpAnswer::datagram("address").from(otherAddress, 123),
                         NtpAnswer::datagram("port").from(serverAddress)});
@@ -280,7 +280,7 @@ void tst_NtpResponder::answersFromElsewhere()
     QVERIFY(fromPort.senderPort() != 123);
 }
 
-void tst_NtpResponder::saysThatAnAnswerCannotBeSent()
+void TestNtpResponder::saysThatAnAnswerCannotBeSent()
 {
     NtpResponder second;
     QVERIFY(second.listen(otherAddress));
@@ -293,7 +293,7 @@ void tst_NtpResponder::saysThatAnAnswerCannotBeSent()
     QCOMPARE(failed.count(), 2);
 }
 
-void tst_NtpResponder::keepsAnswersBack()
+void TestNtpResponder::keepsAnswersBack()
 {
     responder->setPlan({NtpAnswer::datagram("first").later(), NtpAnswer::datagram("second"),
                         NtpAnswer::datagram("third").later()});
@@ -308,7 +308,7 @@ void tst_NtpResponder::keepsAnswersBack()
     expectSilence();
 }
 
-void tst_NtpResponder::sendsUnasked()
+void TestNtpResponder::sendsUnasked()
 {
     QVERIFY(responder->send("unasked", QHostAddress(QHostAddress::LocalHost), client->localPort()));
     const auto datagram = reply();
@@ -317,5 +317,5 @@ void tst_NtpResponder::sendsUnasked()
     QCOMPARE(datagram.senderPort(), 123);
 }
 
-QTEST_GUILESS_MAIN(tst_NtpResponder)
+QTEST_GUILESS_MAIN(TestNtpResponder)
 #include "tst_ntpresponder.moc"

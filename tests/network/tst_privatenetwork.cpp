@@ -38,7 +38,7 @@ qint64 secondsAt(const QByteArray& bytes, int offset)
 
 } // namespace
 
-class tst_PrivateNetwork : public QObject
+class TestPrivateNetwork : public QObject
 {
     Q_OBJECT
 
@@ -55,13 +55,13 @@ private slots:
     void timeServersAnswer();
 };
 
-void tst_PrivateNetwork::initTestCase()
+void TestPrivateNetwork::initTestCase()
 {
     const auto interfaces = QNetworkInterface::allInterfaces();
     QVERIFY2(interfaces.size() == 1, "not a private network; run this by tests/network/in-private-network");
 }
 
-void tst_PrivateNetwork::namesHaveAddresses_data()
+void TestPrivateNetwork::namesHaveAddresses_data()
 {
     QTest::addColumn<QStringList>("addresses");
     for (int i = 0; i < timeServers.size(); ++i)
@@ -73,13 +73,13 @@ void tst_PrivateNetwork::namesHaveAddresses_data()
     QTest::newRow("silent.test") << QStringList{QStringLiteral("192.0.2.1")};
 }
 
-void tst_PrivateNetwork::namesHaveAddresses()
+void TestPrivateNetwork::namesHaveAddresses()
 {
     QFETCH(QStringList, addresses);
     QCOMPARE(addressesOf(QString::fromLatin1(QTest::currentDataTag())), addresses);
 }
 
-void tst_PrivateNetwork::otherNamesFailAtOnce()
+void TestPrivateNetwork::otherNamesFailAtOnce()
 {
     QElapsedTimer timer;
     timer.start();
@@ -89,7 +89,7 @@ void tst_PrivateNetwork::otherNamesFailAtOnce()
     QVERIFY(timer.elapsed() < 1000);
 }
 
-void tst_PrivateNetwork::loopbackIsTheOnlyInterface()
+void TestPrivateNetwork::loopbackIsTheOnlyInterface()
 {
     const auto interfaces = QNetworkInterface::allInterfaces();
     QCOMPARE(interfaces.size(), 1);
@@ -97,7 +97,7 @@ void tst_PrivateNetwork::loopbackIsTheOnlyInterface()
     QVERIFY(interfaces.first().flags().testFlag(QNetworkInterface::IsUp));
 }
 
-void tst_PrivateNetwork::nothingOutsideIsReachable()
+void TestPrivateNetwork::nothingOutsideIsReachable()
 {
     // An address for documentation that no route leads to.
     QTcpSocket socket;
@@ -106,7 +106,7 @@ void tst_PrivateNetwork::nothingOutsideIsReachable()
     QCOMPARE(socket.error(), QAbstractSocket::NetworkError);
 }
 
-void tst_PrivateNetwork::aHostRefuses()
+void TestPrivateNetwork::aHostRefuses()
 {
     QTcpSocket socket;
     socket.connectToHost(QStringLiteral("refusing.test"), 80);
@@ -114,7 +114,7 @@ void tst_PrivateNetwork::aHostRefuses()
     QCOMPARE(socket.error(), QAbstractSocket::ConnectionRefusedError);
 }
 
-void tst_PrivateNetwork::aHostIsSilent()
+void TestPrivateNetwork::aHostIsSilent()
 {
     QTcpSocket socket;
     socket.connectToHost(QStringLiteral("silent.test"), 80);
@@ -131,14 +131,14 @@ void tst_PrivateNetwork::aHostIsSilent()
     QCOMPARE(udp.error(), QAbstractSocket::SocketTimeoutError);
 }
 
-void tst_PrivateNetwork::timeServersAnswer_data()
+void TestPrivateNetwork::timeServersAnswer_data()
 {
     QTest::addColumn<QString>("address");
     for (int i = 0; i < timeServers.size(); ++i)
         QTest::newRow(qPrintable(timeServers.at(i))) << timeServerAddress(i);
 }
 
-void tst_PrivateNetwork::timeServersAnswer()
+void TestPrivateNetwork::timeServersAnswer()
 {
     QFETCH(QString, address);
     QUdpSocket client;
@@ -162,5 +162,5 @@ void tst_PrivateNetwork::timeServersAnswer()
     QVERIFY(transmit - reference <= 70);
 }
 
-QTEST_GUILESS_MAIN(tst_PrivateNetwork)
+QTEST_GUILESS_MAIN(TestPrivateNetwork)
 #include "tst_privatenetwork.moc"
