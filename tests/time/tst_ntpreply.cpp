@@ -1,11 +1,12 @@
 // A time server's answer, field by field, on packets made by hand.
 
-#include "ntpbytes.h"
+#include "network/ntppacket.h"
 #include "time/ntpreply.h"
 
 #include <QTest>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -14,6 +15,16 @@ NtpReply replyOf(const QByteArray& bytes, const QDateTime& arrival = QDateTime::
     Ntp::Packet packet{};
     std::copy(bytes.begin(), bytes.end(), packet.begin());
     return {packet, arrival};
+}
+
+NtpReply replyOf(const NtpPacket& packet, const QDateTime& arrival = QDateTime::currentDateTime())
+{
+    return replyOf(packet.toBytes(), arrival);
+}
+
+NtpReply replyWithFlags(int byte)
+{
+    return replyOf(QByteArray(1, static_cast<char>(byte)));
 }
 
 QDateTime at(qint64 msecs)
@@ -26,11 +37,11 @@ constexpr qint64 someMoment = 1600000000000;
 /// An answer whose four moments on the way are the given milliseconds after some moment.
 NtpReply journey(int origin, int receive, int transmit, int destination)
 {
-    QByteArray bytes(48, '\0');
-    bytes = NtpBytes::with(bytes, 24, NtpBytes::timestamp(at(someMoment + origin)));
-    bytes = NtpBytes::with(bytes, 32, NtpBytes::timestamp(at(someMoment + receive)));
-    bytes = NtpBytes::with(bytes, 40, NtpBytes::timestamp(at(someMoment + transmit)));
-    return replyOf(bytes, at(someMoment + destination));
+    NtpPacket packet;
+    packet.originate = ntpTimestamp(at(someMoment + origin));
+    packet.receive = ntpTimestamp(at(someMoment + receive));
+    packet.transmit = ntpTimestamp(at(someMoment + transmit));
+    return replyOf(packet, at(someMoment + destination));
 }
 
 } // namespace
@@ -48,8 +59,8 @@ private slots:
     void stratumIsUnsigned();
     void powersOfTwo_data();
     void powersOfTwo();
-    void timestampsAreReadWhereTheyLie_data();
     void timestampsAreReadWhereTheyLie();
+    void timesAreLocal();
     void timestampBecomesADateTime_data();
     void timestampBecomesADateTime();
     void roundTripDelay_data();
@@ -97,7 +108,7 @@ void TestNtpReply::flagsByte_data()
 void TestNtpReply::flagsByte()
 {
     QFETCH(int, byte);
-    const NtpReply reply = replyOf(NtpBytes::answer(0, QByteArray(1, static_cast<char>(byte))));
+    const NtpReply reply = replyWithFlags(byte);
     QTEST(reply.leapIndicator(), "leap");
     QTEST(reply.versionNumber(), "version");
     QTEST(reply.mode(), "mode");
@@ -106,15 +117,18 @@ void TestNtpReply::flagsByte()
 void TestNtpReply::flagsByteIsThreeFields()
 {
     for (int byte = 0; byte < 256; byte++) {
-        const NtpReply reply = replyOf(NtpBytes::answer(0, QByteArray(1, static_cast<char>(byte))));
+        const NtpReply reply = replyWithFlags(byte);
         QCOMPARE(reply.leapIndicator() * 64 + reply.versionNumber() * 8 + reply.mode(), byte);
     }
 }
 
 void TestNtpReply::stratumIsUnsigned()
 {
-    QCOMPARE(replyOf(NtpBytes::answer(1, QByteArrayLiteral("\xF0"))).stratum(), quint8(240));
-    QCOMPARE(replyOf(NtpBytes::answer(1, QByteArrayLiteral("\x02"))).stratum(), quint8(2));
+    NtpPacket packet;
+    for (const quint8 stratum : {2, 240}) {
+        packet.stratum = stratum;
+        QCOMPARE(replyOf(packet).stratum(), stratum);
+    }
 }
 
 void TestNtpReply::powersOfTwo_data()
@@ -122,72 +136,71 @@ void TestNtpReply::powersOfTwo_data()
     QTest::addColumn<int>("exponent");
     QTest::addColumn<double>("seconds");
 
-    QTest::newRow("-6") << 0xFA << 0.015625;
-    QTest::newRow("0") << 0x00 << 1.0;
-    QTest::newRow("10") << 0x0A << 1024.0;
-    QTest::newRow("-1") << 0xFF << 0.5;
-    QTest::newRow("127") << 0x7F << 1.7014118346046923e38;
-    QTest::newRow("-128") << 0x80 << 2.938735877055719e-39;
+    QTest::newRow("-6") << -6 << 0.015625;
+    QTest::newRow("0") << 0 << 1.0;
+    QTest::newRow("10") << 10 << 1024.0;
+    QTest::newRow("-1") << -1 << 0.5;
+    QTest::newRow("127") << 127 << 1.7014118346046923e38;
+    QTest::newRow("-128") << -128 << 2.938735877055719e-39;
 }
 
 void TestNtpReply::powersOfTwo()
 {
     QFETCH(int, exponent);
     QFETCH(double, seconds);
-    const QByteArray byte(1, static_cast<char>(exponent));
+    NtpPacket packet;
     // Exactly: powers of two have no rounding to allow for.
-    QVERIFY(replyOf(NtpBytes::answer(2, byte)).pollInterval() == seconds);
-    QVERIFY(replyOf(NtpBytes::answer(3, byte)).precision() == seconds);
-}
-
-using TimeField = QDateTime (NtpReply::*)() const;
-Q_DECLARE_METATYPE(TimeField)
-
-void TestNtpReply::timestampsAreReadWhereTheyLie_data()
-{
-    QTest::addColumn<int>("offset");
-    QTest::addColumn<TimeField>("field");
-
-    QTest::newRow("reference") << 16 << &NtpReply::referenceTime;
-    QTest::newRow("origin") << 24 << &NtpReply::originTime;
-    QTest::newRow("receive") << 32 << &NtpReply::receiveTime;
-    QTest::newRow("transmit") << 40 << &NtpReply::transmitTime;
+    packet.poll = static_cast<qint8>(exponent);
+    packet.precision = 1;
+    QVERIFY(replyOf(packet).pollInterval() == seconds);
+    std::swap(packet.poll, packet.precision);
+    QVERIFY(replyOf(packet).precision() == seconds);
 }
 
 void TestNtpReply::timestampsAreReadWhereTheyLie()
 {
-    QFETCH(int, offset);
-    QFETCH(TimeField, field);
     const QDateTime moment(QDate(2024, 2, 29), QTime(23, 59, 58, 123), Qt::UTC);
-    const QByteArray bytes = NtpBytes::with(NtpBytes::patterned(68), offset, NtpBytes::timestamp(moment));
+    NtpPacket packet;
+    packet.reference = ntpTimestamp(moment);
+    packet.originate = ntpTimestamp(moment.addDays(1));
+    packet.receive = ntpTimestamp(moment.addDays(2));
+    packet.transmit = ntpTimestamp(moment.addDays(3));
 
-    const QDateTime time = (replyOf(bytes).*field)();
-    QCOMPARE(time.toUTC(), moment);
-    QCOMPARE(time.timeSpec(), Qt::LocalTime);
+    const NtpReply reply = replyOf(packet);
+    QCOMPARE(reply.referenceTime().toUTC(), moment);
+    QCOMPARE(reply.originTime().toUTC(), moment.addDays(1));
+    QCOMPARE(reply.receiveTime().toUTC(), moment.addDays(2));
+    QCOMPARE(reply.transmitTime().toUTC(), moment.addDays(3));
+}
+
+void TestNtpReply::timesAreLocal()
+{
+    const NtpReply reply = replyOf(NtpPacket());
+    for (const QDateTime& time :
+         {reply.referenceTime(), reply.originTime(), reply.receiveTime(), reply.transmitTime()})
+        QCOMPARE(time.timeSpec(), Qt::LocalTime);
 }
 
 void TestNtpReply::timestampBecomesADateTime_data()
 {
-    QTest::addColumn<quint32>("seconds");
-    QTest::addColumn<quint32>("fraction");
+    QTest::addColumn<quint64>("stamp");
     QTest::addColumn<QDateTime>("time");
 
-    const QDate day(1970, 1, 1);
-    QTest::newRow("1970") << 2208988800U << 0U << QDateTime(day, QTime(0, 0), Qt::UTC);
-    QTest::newRow("half a second") << 2208988800U << 0x80000000U
-                                   << QDateTime(day, QTime(0, 0, 0, 500), Qt::UTC);
-    QTest::newRow("cut, not rounded")
-        << 2208988800U << 0xFFFFFFFFU << QDateTime(day, QTime(0, 0, 0, 999), Qt::UTC);
-    QTest::newRow("zero") << 0U << 0U << QDateTime(QDate(1900, 1, 1), QTime(0, 0), Qt::UTC);
-    QTest::newRow("last of the era") << 0xFFFFFFFFU << 0U
+    const QDateTime epoch(QDate(1970, 1, 1), QTime(0, 0), Qt::UTC);
+    QTest::newRow("1970") << quint64(0x83AA7E8000000000) << epoch;
+    QTest::newRow("half a second") << quint64(0x83AA7E8080000000) << epoch.addMSecs(500);
+    QTest::newRow("cut, not rounded") << quint64(0x83AA7E80FFFFFFFF) << epoch.addMSecs(999);
+    QTest::newRow("zero") << quint64(0) << QDateTime(QDate(1900, 1, 1), QTime(0, 0), Qt::UTC);
+    QTest::newRow("last of the era") << quint64(0xFFFFFFFF00000000)
                                      << QDateTime(QDate(2036, 2, 7), QTime(6, 28, 15), Qt::UTC);
 }
 
 void TestNtpReply::timestampBecomesADateTime()
 {
-    QFETCH(quint32, seconds);
-    QFETCH(quint32, fraction);
-    const NtpReply reply = replyOf(NtpBytes::answer(16, NtpBytes::timestamp(seconds, fraction)));
+    QFETCH(quint64, stamp);
+    NtpPacket packet;
+    packet.reference = stamp;
+    const NtpReply reply = replyOf(packet);
     QVERIFY(reply.referenceTime().isValid());
     QTEST(reply.referenceTime().toUTC(), "time");
 }
@@ -230,7 +243,9 @@ void TestNtpReply::copiesShareAndOutliveTheOriginal()
 {
     NtpReply copy;
     {
-        const NtpReply original = replyOf(NtpBytes::answer(1, QByteArrayLiteral("\x07")));
+        NtpPacket packet;
+        packet.stratum = 7;
+        const NtpReply original = replyOf(packet);
         copy = original;
     }
     const NtpReply second(copy);
