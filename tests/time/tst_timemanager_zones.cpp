@@ -7,6 +7,9 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
 #include <vector>
 
 namespace {
