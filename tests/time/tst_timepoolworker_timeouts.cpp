@@ -9,12 +9,14 @@
 #include <QTimer>
 
 #include <memory>
+#include <vector>
 
 namespace {
 
 const QDateTime reference(QDate(2021, 5, 6), QTime(7, 8, 9), Qt::UTC);
 constexpr int queryTimeout = 10000;
-constexpr int beforeTimeout = 9000;
+constexpr int wellBeforeTimeout = 7000;
+constexpr int justBeforeTimeout = 9000;
 constexpr int afterTimeout = 12000;
 constexpr int margin = queryTimeout / 20; // of the toolkit's coarse timers
 
@@ -100,6 +102,9 @@ private slots:
     void timeoutIsLogged();
 
 private:
+    /// Each was answered at its first request and sent no more.
+    static constexpr int answeredQueries = 2;
+
     Server silent{QStringLiteral("127.1.0.1"), NtpAnswer::silence()};
     Server silentToo{QStringLiteral("127.1.0.2"), NtpAnswer::silence()};
     Server silentThree{QStringLiteral("127.1.0.3"), NtpAnswer::silence()};
@@ -125,8 +130,8 @@ void TestTimePoolWorkerTimeouts::initTestCase()
           QStringLiteral("zeit-fühler.invalid"), QStringLiteral("..")})
         oddNames.push_back(std::make_unique<Query>(name));
 
-    slow.resolveLate(beforeTimeout, silentToo.address);
-    slowAnswered.resolveLate(beforeTimeout, talkative.address);
+    slow.resolveLate(justBeforeTimeout, silentToo.address);
+    slowAnswered.resolveLate(wellBeforeTimeout, talkative.address);
     stuck.resolveLate(afterTimeout, silentThree.address);
     stuckAnswered.resolveLate(afterTimeout, talkative.address);
     for (Query* query : {&unresolved, &ofSilent, &blackHole, &slow, &slowAnswered, &stuck, &stuckAnswered})
@@ -172,7 +177,8 @@ void TestTimePoolWorkerTimeouts::lateLookUpStillGetsAnAnswer()
 {
     QCOMPARE(slowAnswered.timeouts, 0);
     QCOMPARE(slowAnswered.times, QList<QDateTime>({reference}));
-    QVERIFY(slowAnswered.moments.constFirst() >= beforeTimeout);
+    QVERIFY(slowAnswered.moments.constFirst() >= wellBeforeTimeout);
+    QCOMPARE(talkative.requests().size(), answeredQueries);
 }
 
 void TestTimePoolWorkerTimeouts::lookUpAfterTheTimeoutWaitsForTheNext()
@@ -187,6 +193,7 @@ void TestTimePoolWorkerTimeouts::lookUpAfterTheTimeoutStillGetsAnAnswer()
 {
     QCOMPARE(stuckAnswered.timeouts, 0);
     QCOMPARE(stuckAnswered.times, QList<QDateTime>({reference}));
+    QCOMPARE(talkative.requests().size(), answeredQueries);
 }
 
 void TestTimePoolWorkerTimeouts::timeoutIsLogged()
