@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <utility>
 
+Q_DECLARE_METATYPE(NtpReply)
+
 namespace {
 
 NtpReply replyOf(const QByteArray& bytes, const QDateTime& arrival = QDateTime::currentDateTime())
@@ -255,8 +257,6 @@ void TestNtpReply::copiesShareAndOutliveTheOriginal()
     QCOMPARE(second.stratum(), quint8(7));
     QCOMPARE(sizeof(NtpReply), sizeof(void*));
 }
-
-Q_DECLARE_METATYPE(NtpReply)
 
 QTEST_GUILESS_MAIN(TestNtpReply)
 #include "tst_ntpreply.moc"

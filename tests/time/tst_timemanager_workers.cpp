@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -32,10 +33,10 @@ NtpAnswer answerAtSecond(int second)
 class Chain
 {
 public:
-    Chain(TimeManager& manager, const NtpResponder& server, const QStringList& kinds)
+    Chain(TimeManager& manager, const NtpResponder& server, QStringList kinds)
         : manager(manager)
         , server(server)
-        , kinds(kinds)
+        , kinds(std::move(kinds))
     {
         QObject::connect(&manager, &TimeManager::sQuerySuccesful, &manager, [this] { goOn(); });
     }
@@ -65,7 +66,10 @@ private:
     {
         QEventLoop loop;
         QObject::connect(&manager, &TimeManager::sQuerySuccesful, &loop, &QEventLoop::quit);
-        QTimer::singleShot(0, &loop, [this] { startNext(); });
+        QTimer next;
+        next.setSingleShot(true);
+        QObject::connect(&next, &QTimer::timeout, &loop, [this] { startNext(); });
+        next.start(0);
         loop.exec();
         // Whatever was given up for deletion deeper inside goes now.
         QCoreApplication::processEvents();

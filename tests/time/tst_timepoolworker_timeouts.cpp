@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -19,13 +20,14 @@ constexpr int wellBeforeTimeout = 7000;
 constexpr int justBeforeTimeout = 9000;
 constexpr int afterTimeout = 12000;
 constexpr int margin = queryTimeout / 20; // of the toolkit's coarse timers
+constexpr int twoMargins = 2 * margin;
 
 /// A query of a host, and everything that its worker reported, with the moments since the query.
 class Query
 {
 public:
-    explicit Query(const QString& host)
-        : host(host)
+    explicit Query(QString host)
+        : host(std::move(host))
     {
         QObject::connect(&worker, &TimePoolWorker::sQuerySuccesful, &worker, [this](const QDateTime& time) {
             times.append(time);
@@ -44,22 +46,26 @@ public:
     /// Lets the look-up come out after @p msecs, with @p address.
     void resolveLate(int msecs, const QHostAddress& address)
     {
-        QTimer::singleShot(msecs, Qt::PreciseTimer, &worker, [this, address] {
+        lookUp.setSingleShot(true);
+        lookUp.setTimerType(Qt::PreciseTimer);
+        QObject::connect(&lookUp, &QTimer::timeout, &worker, [this, address] {
             QHostInfo info;
             info.setAddresses({address});
             QMetaObject::invokeMethod(&worker, "plOnServerInfo", Q_ARG(QHostInfo, info));
         });
+        lookUp.start(msecs);
     }
     bool isSilent() const { return moments.isEmpty(); }
     /// One time-out, @p msecs after the query.
     bool timedOutOnce(int msecs) const
     {
-        return timeouts == 1 && times.isEmpty() && qAbs(moments.constFirst() - msecs) <= 2 * margin;
+        return timeouts == 1 && times.isEmpty() && qAbs(moments.constFirst() - msecs) <= twoMargins;
     }
 
 private:
     QString host;
     QElapsedTimer clock;
+    QTimer lookUp;
 
 public:
     TimePoolWorker worker;
@@ -141,7 +147,7 @@ void TestTimePoolWorkerTimeouts::initTestCase()
 
     // The last of the told reports comes with the second tick of a query's time-out.
     QVERIFY(QTest::qWaitFor([this] { return stuck.timeouts > 0; }, 3 * queryTimeout));
-    QTest::qWait(2 * margin);
+    QTest::qWait(twoMargins);
 }
 
 void TestTimePoolWorkerTimeouts::unresolvedHostIsNeverReported()
