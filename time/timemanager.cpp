@@ -17,7 +17,6 @@ TimeManager::TimeManager(QObject* parent)
 TimeManager::~TimeManager()
 {
     qDeleteAll(poolWorkers);
-    qDeleteAll(retiredWorkers);
 }
 
 void TimeManager::queryServer(const QString& host)
