@@ -6,6 +6,7 @@
 #include "app/statustipfilter.h"
 #include "device/brumaloggerinterface.h"
 #include "dialogs/settingsdialog.h"
+#include "presets/presetstorage.h"
 #include "time/timemanager.h"
 #include "ui_mainwindow.h"
 
@@ -56,6 +57,7 @@ MainWindow::MainWindow(QWidget* parent)
     , ui(new Ui::MainWindow)
     , device(new BrumaloggerInterface(nullptr))
     , settingsDialog(new SettingsDialog(this))
+    , presetStorage(new PresetStorage(this))
     , timeManager(new TimeManager(nullptr))
 {
     Q_INIT_RESOURCE(images);

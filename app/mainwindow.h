@@ -12,6 +12,7 @@
 #include <QStringList>
 
 class BrumaloggerInterface;
+class PresetStorage;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -173,6 +174,7 @@ private:
     Ui::MainWindow* ui;
     QSharedPointer<BrumaloggerInterface> device;
     QSharedPointer<SettingsDialog> settingsDialog;
+    QSharedPointer<PresetStorage> presetStorage; ///< for all presets
     QSharedPointer<TimeManager> timeManager;
     const QString dateTimeDisplayFormat = QStringLiteral("hh:mm:ss dd/MMM/yyyy");
     bool keepConnecting = false; ///< false once a connect under way is over and must say nothing more

@@ -70,11 +70,14 @@ void MainWindow::plUpdateTimeZoneLabel()
         match = timeManager->matchTimeZoneByOffset(device->lTimeZoneOffset());
     if (settingsDialog->timeEnabled() && timeManager->isQuerySuccesful()) {
         qDebug() << "Updating time zone on UI...";
-        const QDateTime shown = timeKeeper.timeUtc();
-        if (!zoneKnown)
+        if (!zoneKnown) {
+            const QDateTime shown = timeKeeper.timeUtc();
             match = timeManager->matchTimeZoneByDateTime(shown.date(), shown.time());
-        ui->buttonToolTimeZone->show();
-        ui->buttonToolTimeZone->setEnabled(true);
+        }
+        if (!controlsDisabled) {
+            ui->buttonToolTimeZone->show();
+            ui->buttonToolTimeZone->setEnabled(true);
+        }
     }
     const bool found = match.id != -1;
     currentTimeZoneName = found ? match.name : defaultTimeZoneName;

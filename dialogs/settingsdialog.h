@@ -21,7 +21,7 @@ class SettingsDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// The size of @p parent is saved and restored along with the settings.
+    /// The size of @p parent, the main window, is saved along with the settings.
     explicit SettingsDialog(QWidget* parent);
     ~SettingsDialog() override;
 

@@ -12,10 +12,12 @@ brumalogger_add_test(tst_mainwindow_settings SOURCES tst_mainwindow_settings.cpp
   LINK brumalogger_proceduretests
   MOCK NETWORK X11
 )
-brumalogger_add_test(tst_mainwindow_time SOURCES tst_mainwindow_time.cpp
-  LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time
-  MOCK NETWORK X11
-)
+foreach(concern time zonelabel)
+  brumalogger_add_test(tst_mainwindow_${concern} SOURCES timerig.cpp timerig.h tst_mainwindow_${concern}.cpp
+    LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time
+    MOCK NETWORK X11
+  )
+endforeach()
 brumalogger_add_test(tst_mainwindow_servers SOURCES tst_mainwindow_servers.cpp
   LINK brumalogger_proceduretests
   MOCK TIME_SERVERS

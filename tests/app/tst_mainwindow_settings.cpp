@@ -66,6 +66,9 @@ private slots:
     void defaultPresetEnablesItsButton();
     void timeConfigurationEnablesTheEditor();
     void disabledControlsStayAlone();
+    void acceptedAtAnyCommandOfAProcedure_data();
+    void acceptedAtAnyCommandOfAProcedure();
+    void fileIsWrittenBeforeTheSettingsApply();
     void savedSize_data();
     void savedSize();
     void closingSaves();
@@ -180,6 +183,51 @@ void TestMainWindowSettings::disabledControlsStayAlone()
     QVERIFY(!rig.find<QToolButton>("buttonToolTimeZone")->isEnabled());
     QCOMPARE(rig.window.styleSheet(), QStringLiteral("font-size: 18pt"));
     QCOMPARE(rig.status(), QStringLiteral("Fetching time and date from time.google.com..."));
+}
+
+void TestMainWindowSettings::acceptedAtAnyCommandOfAProcedure_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<int>("command");
+    for (int command = 1; command <= readCommands().size(); command++)
+        QTest::addRow("read, %d", command) << QByteArray("buttonRead") << command;
+    for (int command = 1; command <= writeCommandsOfBasicLogger().size(); command++)
+        QTest::addRow("write, %d", command) << QByteArray("buttonWrite") << command;
+}
+
+void TestMainWindowSettings::acceptedAtAnyCommandOfAProcedure()
+{
+    QFETCH(QByteArray, button);
+    QFETCH(int, command);
+    Rig rig;
+    rig.plugAndConnect();
+    bool enabledThen = true;
+    rig.atCommand(command, [&] {
+        child<QLineEdit>(*rig.dialog, "lineFilename")->setText(key("some.bpr"));
+        rig.check("checkPreset");
+        rig.check("checkDisableTime", false);
+        rig.check("checkDisableFast");
+        child<QSpinBox>(*rig.dialog, "spinFont")->setValue(17);
+        rig.dialog->accept();
+        enabledThen = rig.isEnabled("buttonPreset") || rig.isEnabled("buttonToolTimeZone");
+    });
+    rig.press(button);
+    QVERIFY(!enabledThen);
+    QVERIFY(rig.isEnabled("buttonPreset"));
+    QVERIFY(!rig.isEnabled("buttonToolTimeZone")); // no reference time
+    QCOMPARE(rig.wire(), button == "buttonRead" ? readCommands() : writeCommandsOfBasicLogger());
+    QCOMPARE(rig.window.styleSheet(), QStringLiteral("font-size: 17pt"));
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+// The dialog first takes back a preset without a path.
+void TestMainWindowSettings::fileIsWrittenBeforeTheSettingsApply()
+{
+    Rig rig;
+    rig.plugAndConnect();
+    rig.check("checkPreset");
+    rig.dialog->accept();
+    QVERIFY(!rig.isEnabled("buttonPreset"));
 }
 
 void TestMainWindowSettings::savedSize_data()

@@ -58,7 +58,6 @@ private slots:
     void disablesControls();
     void showsProgress();
     void hasNoWayToZero();
-    void delayOfZeroIsNotSent();
 };
 
 void TestMainWindowWrite::writesInOrder()
@@ -334,22 +333,6 @@ void TestMainWindowWrite::hasNoWayToZero()
     rig.press("buttonWrite");
     QCOMPARE(rig.wire().mid(1, 2), QList<QByteArray>({"Ss00000060", "Sd00000060"}));
     QCOMPARE(differences(rig, written()), QString());
-}
-
-// No operator gets there, but the rule behind the box's limits is the link's.
-void TestMainWindowWrite::delayOfZeroIsNotSent()
-{
-    ProcedureRig rig;
-    rig.plugAndConnect();
-    choose(rig, "comboDelay", QStringLiteral("Custom"));
-    rig.find<QSpinBox>("spinDelay")->setMinimum(0);
-    rig.find<QSpinBox>("spinDelay")->setValue(0);
-    expectWriteFailed(rig.robot);
-    rig.press("buttonWrite");
-    QCOMPARE(rig.wire(), writeCommandsOfBasicLogger().mid(0, 2));
-    QCOMPARE(rig.status(), QStringLiteral("Write failed. Please retry"));
-    QVERIFY(rig.isModified());
-    QCOMPARE(rig.robot.problems(), QString());
 }
 
 QTEST_MAIN(TestMainWindowWrite)

@@ -5,6 +5,8 @@
 #include "windowstate.h"
 #include "windowwords.h"
 
+#include <QComboBox>
+#include <QSpinBox>
 #include <QTest>
 
 using namespace WindowWords;
@@ -67,6 +69,7 @@ private slots:
     void movesBar_data();
     void movesBar();
     void writesAgainAfterFailure();
+    void delayOfZeroIsNotSent();
 };
 
 void TestMainWindowWriteFailures::failsAtSilence_data()
@@ -247,6 +250,22 @@ void TestMainWindowWriteFailures::writesAgainAfterFailure()
     rig.press("buttonWrite");
     QCOMPARE(rig.wire(), writeCommandsOfBasicLogger());
     QCOMPARE(differences(rig, written()), QString());
+}
+
+// No operator gets there, but the rule behind the box's limits is the link's.
+void TestMainWindowWriteFailures::delayOfZeroIsNotSent()
+{
+    ProcedureRig rig;
+    rig.plugAndConnect();
+    rig.find<QComboBox>("comboDelay")->setCurrentText(QStringLiteral("Custom"));
+    rig.find<QSpinBox>("spinDelay")->setMinimum(0);
+    rig.find<QSpinBox>("spinDelay")->setValue(0);
+    expectWriteFailed(rig.robot);
+    rig.press("buttonWrite");
+    QCOMPARE(rig.wire(), writeCommandsOfBasicLogger().mid(0, 2));
+    QCOMPARE(rig.status(), QStringLiteral("Write failed. Please retry"));
+    QVERIFY(rig.isModified());
+    QCOMPARE(rig.robot.problems(), QString());
 }
 
 QTEST_MAIN(TestMainWindowWriteFailures)

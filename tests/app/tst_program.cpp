@@ -143,6 +143,7 @@ private slots:
     void ignoresItsArguments_data();
     void ignoresItsArguments();
     void keepsItsSettingsFromStartToStart();
+    void firstStartLeavesItsDefaults();
 
 private:
     /// Starts the program and waits for its window; 0 if none came.
@@ -247,7 +248,7 @@ void TestProgram::ignoresItsArguments()
 void TestProgram::keepsItsSettingsFromStartToStart()
 {
     const Settings settings{{QStringLiteral("fontsize"), QStringLiteral("11")},
-                            {QStringLiteral("preseten"), QStringLiteral("1")},
+                            {QStringLiteral("preseten"), QStringLiteral("0")},
                             {QStringLiteral("presetpath"), QStringLiteral("/größer/some.bpr")},
                             {QStringLiteral("timeserver"), QStringLiteral("stdtime.gov.hk")},
                             {QStringLiteral("disabletime"), QStringLiteral("1")},
@@ -256,8 +257,11 @@ void TestProgram::keepsItsSettingsFromStartToStart()
                             {QStringLiteral("language"), QStringLiteral("en_us")},
                             {QStringLiteral("winwidth"), QStringLiteral("910")},
                             {QStringLiteral("winheight"), QStringLiteral("805")}};
+    Settings incomplete = settings;
+    incomplete.remove(QStringLiteral("preseten"));
+    incomplete.insert(QStringLiteral("disablefast"), QStringLiteral("7"));
     folder.reset();
-    folder.reset(new WorkFolder(settings));
+    folder.reset(new WorkFolder(incomplete));
     for (int round = 0; round < 2; round++) {
         const xcb_window_t window = start({});
         QVERIFY(window != 0);
@@ -265,6 +269,25 @@ void TestProgram::keepsItsSettingsFromStartToStart()
         QVERIFY(end(window));
         QCOMPARE(WorkFolder::configuration(), settings);
     }
+}
+
+void TestProgram::firstStartLeavesItsDefaults()
+{
+    folder.reset();
+    folder.reset(new WorkFolder(Settings()));
+    const xcb_window_t window = start({});
+    QVERIFY(window != 0);
+    QVERIFY(end(window));
+    Settings left = WorkFolder::configuration();
+    QVERIFY(left.take(QStringLiteral("fontsize")).toInt() > 0);
+    QCOMPARE(left, Settings({{QStringLiteral("preseten"), QStringLiteral("0")},
+                             {QStringLiteral("presetpath"), QString()},
+                             {QStringLiteral("timeserver"), QStringLiteral("time.google.com")},
+                             {QStringLiteral("disabletime"), QStringLiteral("0")},
+                             {QStringLiteral("useserverpool"), QStringLiteral("0")},
+                             {QStringLiteral("disablefast"), QStringLiteral("0")},
+                             {QStringLiteral("winwidth"), QStringLiteral("850")},
+                             {QStringLiteral("winheight"), QStringLiteral("789")}}));
 }
 
 QTEST_GUILESS_MAIN(TestProgram)

@@ -62,8 +62,8 @@ private slots:
 
 void TestSettingsDialogFile::withoutAFile()
 {
-    const SettingsDesk desk;
-    QVERIFY(!const_cast<SettingsDialog&>(desk.dialog).loadSettings());
+    SettingsDesk desk;
+    QVERIFY(!desk.dialog.loadSettings());
     QCOMPARE(summary(desk.dialog),
              QStringLiteral("no preset, \"\", time, no pool, fast, %1 pt, time.google.com, 0x0")
                  .arg(desk.dialog.font().pointSize()));

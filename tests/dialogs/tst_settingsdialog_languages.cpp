@@ -32,6 +32,7 @@ private slots:
     void fillingSaysNothing();
     void readsLanguage_data();
     void readsLanguage();
+    void missingLanguageLeavesTheSelection();
     void choiceByHandIsAnsweredInItsLanguage_data();
     void choiceByHandIsAnsweredInItsLanguage();
     void choiceIsNotWrittenYet();
@@ -104,6 +105,15 @@ void TestSettingsDialogLanguages::readsLanguage()
     chooseByHand(desk, "fr_fr");
     QVERIFY(desk.dialog.loadSettings());
     QTEST(desk.find<QComboBox>("comboLanguage")->currentData().toString(), "expected");
+}
+
+void TestSettingsDialogLanguages::missingLanguageLeavesTheSelection()
+{
+    SettingsDesk desk({{QStringLiteral("fontsize"), QStringLiteral("12")}});
+    desk.dialog.setLanguages(someLanguages());
+    chooseByHand(desk, "fr_fr");
+    QVERIFY(desk.dialog.loadSettings());
+    QCOMPARE(desk.find<QComboBox>("comboLanguage")->currentData().toString(), QStringLiteral("fr_fr"));
 }
 
 void TestSettingsDialogLanguages::choiceByHandIsAnsweredInItsLanguage_data()

@@ -117,6 +117,7 @@ void TestPresetFormatPage::bodyIsWhatIsSaved()
     const Folder folder;
     PresetStorage storage;
     fill(&storage, table);
+    TestClock::ignoreStalls();
     TestClock::set(QDateTime(QDate(2021, 3, 4), QTime(17, 58, 9)).toMSecsSinceEpoch());
     QVERIFY(storage.save(folder.path("preset")));
     const QByteArrayList saved = deciphered(read(folder.path("preset")));

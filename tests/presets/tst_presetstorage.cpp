@@ -148,6 +148,7 @@ void TestPresetStorage::bodyEndsInTheDate()
     PresetStorage storage;
     storage.setValue("a", "1");
     const Folder folder;
+    TestClock::ignoreStalls();
     TestClock::set(localMoment(date, time));
     QVERIFY(storage.save(folder.path("preset")));
     QCOMPARE(deciphered(read(folder.path("preset"))).value(1), "a=1\n_gendate_:" + line);
@@ -158,6 +159,7 @@ void TestPresetStorage::twoSavesDiffer()
     PresetStorage storage;
     storage.setValue("sender", "Northern Pharma");
     const Folder folder;
+    TestClock::ignoreStalls();
     TestClock::set(localMoment(QDate(2021, 3, 4), QTime(17, 58, 9)));
     QVERIFY(storage.save(folder.path("first")));
     TestClock::shift(1000);
@@ -171,6 +173,7 @@ void TestPresetStorage::twoSavesDiffer()
 void TestPresetStorage::emptyTableComesBackEmpty()
 {
     const Folder folder;
+    TestClock::ignoreStalls();
     TestClock::set(localMoment(QDate(2021, 3, 4), QTime(17, 58, 9)));
     QVERIFY(PresetStorage().save(folder.path("preset")));
     QCOMPARE(deciphered(read(folder.path("preset"))).value(1), QByteArray("_gendate_:58170904032021"));

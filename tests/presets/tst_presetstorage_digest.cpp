@@ -90,6 +90,7 @@ void TestPresetStorageDigest::digestTextIsLossy()
     const Folder folder;
     PresetStorage storage;
     storage.setValue("a", value);
+    TestClock::ignoreStalls();
     TestClock::set(QDateTime(QDate(2021, 3, 4), QTime(17, 58, 9)).toMSecsSinceEpoch());
     QVERIFY(storage.save(folder.path("preset")));
 

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "procedurerig.h"
+
+#include "network/ntpresponder.h"
+
+#include <memory>
+#include <vector>
+
+class SettingsDialog;
+
+namespace TimeWords {
+
+const QString fetchingServer = QStringLiteral("Fetching time and date from time.google.com...");
+const QString fetchingPool = QStringLiteral("Fetching time and date from server pool...");
+const QString fetchedServer = QStringLiteral("Successfully fetched time and date from time.google.com.");
+const QString fetchedPool = QStringLiteral("Successfully fetched time and date from server pool.");
+const QString failedServer = QStringLiteral("Unable to fetch date and time from time.google.com. "
+                                            "Check your connections or try another server.");
+const QString failedPool = QStringLiteral("Unable to fetch date and time from server pool. "
+                                          "Check your connections or try another server.");
+
+} // namespace TimeWords
+
+constexpr int queryPatience = 30000; // milliseconds
+constexpr int poolSize = 7;
+
+/// Time configuration on.
+Settings timeSettings(bool pool = false);
+
+/// The seven servers; silent until they are told otherwise.
+class Servers
+{
+public:
+    Servers();
+    void answer(const NtpAnswer& answer);
+    void release();
+    int requests() const;
+
+private:
+    std::vector<std::unique_ptr<NtpResponder>> all;
+};
+
+/// A window that asks for the time.
+class TimeRig : public ProcedureRig
+{
+public:
+    explicit TimeRig(const Settings& settings);
+
+    void check(const char* settingsBox, bool checked);
+    bool comesTo(const QString& message);
+    /// The zone label, the one beside it and the button behind it, as far as they are there.
+    QString zone() const;
+
+    SettingsDialog* dialog;
+};
+
+/// A whole query of another server: what was sent and answered before it has come by then.
+bool otherQueryPasses();

@@ -1,0 +1,144 @@
+// The zone of the device's clock on display, and the button of the editor behind it.
+
+#include "timerig.h"
+
+#include "dialogs/settingsdialog.h"
+
+#include <QTest>
+
+using namespace TimeWords;
+
+namespace {
+
+/// Basic firmware, its clock @p seconds ahead of the true time.
+LoggerModel loggerAhead(int seconds)
+{
+    LoggerModel model = basicLogger();
+    model.settings().clockOffset = seconds;
+    return model;
+}
+
+} // namespace
+
+class TestMainWindowZoneLabel : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void zoneOfTheDevicesClock_data();
+    void zoneOfTheDevicesClock();
+    void zoneIsHiddenWithoutReferenceTime();
+    void zoneIsHiddenWithTimeConfigurationOff();
+    void editorNeedsADeviceAndReferenceTime();
+    void answerDuringAReadTouchesNoControls();
+    void answerWithoutADevice();
+};
+
+void TestMainWindowZoneLabel::zoneOfTheDevicesClock_data()
+{
+    QTest::addColumn<int>("ahead");
+    QTest::addColumn<QString>("zone");
+    QTest::newRow("true time") << 0 << "GMT, label, button";
+    QTest::newRow("two hours ahead") << 7200 << "GMT+2:00, label, button";
+    QTest::newRow("40 minutes ahead") << 2400 << "GMT+1:00, label, button";
+    QTest::newRow("five hours behind") << -18000 << "GMT-5:00, label, button";
+    QTest::newRow("three days ahead") << 3 * 86400 << "button";
+}
+
+// The answer comes while the logger is connected, so only the zone of its clock can be news.
+void TestMainWindowZoneLabel::zoneOfTheDevicesClock()
+{
+    QFETCH(int, ahead);
+    QFETCH(QString, zone);
+    Servers servers;
+    servers.answer(NtpAnswer::currentTime().later());
+    TimeRig rig(timeSettings());
+    rig.plugAndConnect(loggerAhead(ahead));
+    QCOMPARE(rig.zone(), QString());
+    QVERIFY(QTest::qWaitFor([&] { return servers.requests() > 0; }));
+    servers.release();
+    QVERIFY(rig.comesTo(fetchedServer));
+    QCOMPARE(rig.zone(), zone);
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowZoneLabel::zoneIsHiddenWithoutReferenceTime()
+{
+    const Servers servers;
+    TimeRig rig(timeSettings());
+    rig.plugAndConnect(loggerAhead(7200));
+    QCOMPARE(rig.zone(), QString());
+    QVERIFY(rig.comesTo(failedServer));
+    QCOMPARE(rig.zone(), QString());
+}
+
+void TestMainWindowZoneLabel::zoneIsHiddenWithTimeConfigurationOff()
+{
+    Servers servers;
+    servers.answer(NtpAnswer::currentTime());
+    TimeRig rig(timeSettings());
+    QVERIFY(rig.comesTo(fetchedServer));
+    rig.plugAndConnect(loggerAhead(7200));
+    rig.dialog->accept();
+    QCOMPARE(rig.zone(), QStringLiteral("GMT+2:00, label, button"));
+    rig.check("checkDisableTime", true);
+    rig.dialog->accept();
+    QCOMPARE(rig.zone(), QStringLiteral("disabled button"));
+}
+
+void TestMainWindowZoneLabel::editorNeedsADeviceAndReferenceTime()
+{
+    Servers servers;
+    servers.answer(NtpAnswer::currentTime());
+    TimeRig rig(timeSettings());
+    QVERIFY(rig.comesTo(fetchedServer));
+    rig.dialog->accept();
+    QVERIFY(!rig.isEnabled("buttonToolTimeZone"));
+    rig.plugAndConnect();
+    QVERIFY(rig.isEnabled("buttonToolTimeZone"));
+    bool enabledThen = true;
+    rig.atCommand(3, [&] { enabledThen = rig.isEnabled("buttonToolTimeZone"); });
+    rig.press("buttonRead");
+    QVERIFY(!enabledThen);
+    QVERIFY(rig.isEnabled("buttonToolTimeZone"));
+    rig.press("buttonConnect");
+    QVERIFY(!rig.isEnabled("buttonToolTimeZone"));
+}
+
+void TestMainWindowZoneLabel::answerDuringAReadTouchesNoControls()
+{
+    Servers servers;
+    servers.answer(NtpAnswer::currentTime().later());
+    TimeRig rig(timeSettings());
+    rig.plugAndConnect(loggerAhead(7200));
+    QVERIFY(QTest::qWaitFor([&] { return servers.requests() > 0; }));
+    rig.takeStatusLog();
+    QString zoneThen;
+    rig.atCommand(6, [&] {
+        servers.release();
+        if (!rig.comesTo(fetchedServer))
+            qFatal("the answer never came");
+        zoneThen = rig.zone();
+    });
+    rig.press("buttonRead");
+    QCOMPARE(zoneThen, QString());
+    QCOMPARE(rig.wire(), readCommands());
+    QCOMPARE(rig.takeStatusLog(),
+             QStringList({QStringLiteral("Reading from device on %1").arg(rig.logger->portName()),
+                          fetchedServer, QStringLiteral("Read successful")}));
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowZoneLabel::answerWithoutADevice()
+{
+    Servers servers;
+    servers.answer(NtpAnswer::currentTime());
+    TimeRig rig(timeSettings());
+    QVERIFY(rig.comesTo(fetchedServer));
+    QCOMPARE(rig.zone(), QString());
+    QVERIFY(!rig.controlsEnabled());
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+QTEST_MAIN(TestMainWindowZoneLabel)
+#include "tst_mainwindow_zonelabel.moc"
