@@ -8,8 +8,7 @@
 #include <QMessageBox>
 #include <QScopedValueRollback>
 #include <QShowEvent>
-
-#include <utility>
+#include <QTimer>
 
 namespace {
 
@@ -101,8 +100,10 @@ void PasswordDialog::plRefresh()
     }
     // Hidden before it is on the screen, a dialog would get there all the same, and never leave it.
     if (putOffResult)
-        QMetaObject::invokeMethod(
-            this, [this] { done(*std::exchange(putOffResult, {})); }, Qt::QueuedConnection);
+        QTimer::singleShot(0, this, [this] {
+            if (putOffResult)
+                done(*putOffResult);
+        });
 }
 
 bool PasswordDialog::plReadTexts(QStringList* texts)
@@ -139,19 +140,26 @@ void PasswordDialog::done(int result)
             putOffResult = result;
         return;
     }
-    unlocked = false;
     if (result == QDialog::Accepted)
         plUnlock();
     else
-        QDialog::done(result);
+        plClose(result);
+}
+
+void PasswordDialog::plClose(int result)
+{
+    unlocked = false;
+    putOffResult.reset();
+    QDialog::done(result);
 }
 
 // Without an answer both warnings are shown, the second one when the dialog has closed.
 void PasswordDialog::plUnlock()
 {
+    unlocked = false;
     const bool answered = plTryPassword();
     if (putOffResult) {
-        done(*std::exchange(putOffResult, {}));
+        plClose(*putOffResult);
         return;
     }
     if (!answered) {

@@ -49,6 +49,7 @@ private:
     bool plReadTexts(QStringList* texts);
     void plShowTexts(const QStringList& texts);
     void plToggleInfo(bool show);
+    void plClose(int result);
     void plUnlock();
     bool plTryPassword();
     void plWarn(const QString& text);
