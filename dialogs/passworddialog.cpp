@@ -8,7 +8,6 @@
 #include <QMessageBox>
 #include <QScopedValueRollback>
 #include <QShowEvent>
-#include <QTimer>
 
 namespace {
 
@@ -60,6 +59,8 @@ PasswordDialog::PasswordDialog(QWidget* parent)
     ui->groupInfo->hide();
     connect(ui->buttonToggleInfo, &QPushButton::clicked, this,
             [this] { plToggleInfo(ui->groupInfo->isHidden()); });
+    putOffClosing.setSingleShot(true);
+    connect(&putOffClosing, &QTimer::timeout, this, &PasswordDialog::plClosePutOff);
     // The window grows and shrinks with the group.
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
@@ -100,10 +101,13 @@ void PasswordDialog::plRefresh()
     }
     // Hidden before it is on the screen, a dialog would get there all the same, and never leave it.
     if (putOffResult)
-        QTimer::singleShot(0, this, [this] {
-            if (putOffResult)
-                done(*putOffResult);
-        });
+        putOffClosing.start(0);
+}
+
+void PasswordDialog::plClosePutOff()
+{
+    if (putOffResult)
+        done(*putOffResult);
 }
 
 bool PasswordDialog::plReadTexts(QStringList* texts)

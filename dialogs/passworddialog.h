@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QSharedPointer>
 #include <QStringList>
+#include <QTimer>
 
 #include <optional>
 
@@ -49,6 +50,7 @@ private:
     bool plReadTexts(QStringList* texts);
     void plShowTexts(const QStringList& texts);
     void plToggleInfo(bool show);
+    void plClosePutOff();
     void plClose(int result);
     void plUnlock();
     bool plTryPassword();
@@ -59,5 +61,6 @@ private:
     int state = 0;
     bool unlocked = false;
     bool exchanging = false;
+    QTimer putOffClosing;
     std::optional<int> putOffResult; ///< of a closing that waits for the end of the exchange
 };

@@ -83,7 +83,9 @@ int PasswordDesk::run(const std::function<void()>& action)
 {
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, &look, [this, &look, action] {
-        if (!dialog.windowHandle() || !dialog.windowHandle()->isExposed())
+        // A window just hidden may count as exposed for a while.
+        const QWindow* shown = dialog.windowHandle();
+        if (!shown || !shown->isVisible() || !shown->isExposed())
             return;
         look.stop();
         action();
