@@ -1,0 +1,192 @@
+// The dialog of advanced options: the policies word on its way to the controls and back.
+
+#include "advanceddesk.h"
+
+#include <QTest>
+
+namespace {
+
+constexpr int allWords = 0x10000;
+constexpr int once = 0x0400;
+constexpr int always = 0x0800;
+constexpr int resetDone = 0x2000;
+constexpr int anyStart = 0x0001 | 0x0002;
+constexpr int anyStop = 0x0100 | 0x0200;
+
+struct Bit
+{
+    int value;
+    const char* control;
+};
+
+constexpr Bit bits[] = {
+    {0x0001, "checkStartButton"}, {0x0002, "checkStartSoftware"}, {0x0004, "checkConfigPassw"},
+    {0x0100, "checkStopButton"},  {0x0200, "checkStopUSBAttach"}, {once, "radioPasswOnce"},
+    {always, "radioPasswAlways"}, {resetDone, "radioResetDone"},
+};
+
+/// Both report choices can't be shown; the stricter one is.
+int shownWord(int word)
+{
+    return (word & always) ? word & ~once : word;
+}
+
+/// The control that shows @p word wrongly, or null.
+const char* wrongControl(const AdvancedDesk& desk, int word)
+{
+    for (const Bit& bit : bits) {
+        if (desk.isChecked(bit.control) != ((shownWord(word) & bit.value) != 0))
+            return bit.control;
+    }
+    if (desk.isChecked("radioPasswNone") != ((word & (once | always)) == 0))
+        return "radioPasswNone";
+    return desk.isChecked("radioResetAlways") == ((word & resetDone) == 0) ? nullptr : "radioResetAlways";
+}
+
+/// Titles of the message boxes that accepting @p word brings.
+QStringList boxesFor(int word)
+{
+    if (!(word & anyStart))
+        return {QStringLiteral("No START enabled")};
+    if (!(word & anyStop))
+        return {QStringLiteral("No STOP enabled")};
+    if ((word & resetDone) && (word & (once | always)))
+        return {QStringLiteral("Attention")};
+    return {};
+}
+
+QStringList titlesFrom(const AdvancedDesk& desk, int first)
+{
+    QStringList titles;
+    for (const DialogRobot::Box& box : desk.robot.boxes().mid(first))
+        titles << box.title;
+    return titles;
+}
+
+bool isAccepted(int word)
+{
+    return (word & anyStart) && (word & anyStop);
+}
+
+} // namespace
+
+class TestAdvancedOptionsDialogPolicies : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void wordOfADevice();
+    void bothReportChoices();
+    void bitsWithoutAControl();
+    void singleUseKeepsItsReset();
+    void controlsMakeTheWord_data();
+    void controlsMakeTheWord();
+    void everyWord();
+};
+
+void TestAdvancedOptionsDialogPolicies::wordOfADevice()
+{
+    AdvancedDesk desk;
+    desk.dialog.lSetPolicies(259);
+    desk.open();
+    for (const char* on :
+         {"checkStartButton", "checkStartSoftware", "checkStopButton", "radioPasswNone", "radioResetAlways"})
+        QVERIFY2(desk.isChecked(on), on);
+    for (const char* off :
+         {"checkConfigPassw", "checkStopUSBAttach", "radioPasswOnce", "radioPasswAlways", "radioResetDone"})
+        QVERIFY2(!desk.isChecked(off), off);
+}
+
+void TestAdvancedOptionsDialogPolicies::bothReportChoices()
+{
+    AdvancedDesk desk;
+    desk.dialog.lSetPassword(QStringLiteral("secret"));
+    desk.dialog.lSetPolicies(259 + once + always);
+    desk.open();
+    QVERIFY(desk.isChecked("radioPasswAlways") && !desk.isChecked("radioPasswOnce"));
+    desk.dialog.reject();
+    QCOMPARE(desk.dialog.lPolicies(), 259 + once + always);
+    desk.openAndAccept();
+    QCOMPARE(desk.dialog.lPolicies(), 259 + always);
+}
+
+void TestAdvancedOptionsDialogPolicies::bitsWithoutAControl()
+{
+    for (const int bit : {8, 16, 32, 64, 128, 4096, 16384, 32768}) {
+        AdvancedDesk desk;
+        desk.dialog.lSetPolicies(259 + bit);
+        desk.open();
+        desk.check("checkStopUSBAttach");
+        QVERIFY(desk.accept());
+        QCOMPARE(desk.dialog.lPolicies(), 259 + bit + 512);
+    }
+}
+
+void TestAdvancedOptionsDialogPolicies::singleUseKeepsItsReset()
+{
+    for (const int reset : {0, resetDone}) {
+        AdvancedDesk desk;
+        desk.dialog.lSetMultiuse(false);
+        desk.dialog.lSetPolicies(259 + reset);
+        desk.openAndAccept();
+        QVERIFY(!desk.isEnabled("groupMultiuse"));
+        QCOMPARE(desk.isChecked("radioResetDone"), reset != 0);
+        QCOMPARE(desk.dialog.lPolicies(), 259 + reset);
+    }
+}
+
+void TestAdvancedOptionsDialogPolicies::controlsMakeTheWord_data()
+{
+    QTest::addColumn<int>("before");
+    QTest::addColumn<int>("after");
+    const int others = 0xd0f8;
+    const int plain = others | 0x0003 | 0x0300;
+    const auto row = [](const char* control, int before, int after) {
+        QTest::newRow(control) << before << after;
+    };
+    row("checkStartButton", plain, plain & ~0x0001);
+    row("checkStartSoftware", plain, plain & ~0x0002);
+    row("checkConfigPassw", plain, plain | 0x0004);
+    row("checkStopButton", plain, plain & ~0x0100);
+    row("checkStopUSBAttach", plain, plain & ~0x0200);
+    row("radioPasswOnce", plain | always, plain | once);
+    row("radioPasswAlways", plain | once, plain | always);
+    row("radioPasswNone", plain | once, plain);
+    row("radioResetDone", plain, plain | resetDone);
+    row("radioResetAlways", plain | resetDone, plain);
+}
+
+void TestAdvancedOptionsDialogPolicies::controlsMakeTheWord()
+{
+    QFETCH(int, before);
+    AdvancedDesk desk;
+    desk.dialog.lSetPassword(QStringLiteral("secret"));
+    desk.dialog.lSetPolicies(before);
+    desk.open();
+    auto* control = desk.button(QTest::currentDataTag());
+    control->setChecked(!control->isChecked());
+    QVERIFY(desk.accept());
+    QTEST(desk.dialog.lPolicies(), "after");
+    QCOMPARE(desk.robot.problems(), QString());
+}
+
+// The robot closes the boxes, which it wasn't told of; their titles are compared here.
+void TestAdvancedOptionsDialogPolicies::everyWord()
+{
+    AdvancedDesk desk;
+    desk.dialog.lSetPassword(QStringLiteral("secret"));
+    for (int word = 0; word < allWords; word++) {
+        const int boxesBefore = desk.robot.boxes().size();
+        desk.dialog.lSetPolicies(word);
+        desk.dialog.show();
+        const char* wrong = wrongControl(desk, word);
+        QVERIFY2(!wrong, qPrintable(QStringLiteral("%1 for the word %2").arg(wrong).arg(word)));
+        QCOMPARE(desk.accept(), isAccepted(word));
+        QCOMPARE(titlesFrom(desk, boxesBefore), boxesFor(word));
+        desk.dialog.reject();
+        QCOMPARE(desk.dialog.lPolicies(), isAccepted(word) ? shownWord(word) : word);
+    }
+}
+
+QTEST_MAIN(TestAdvancedOptionsDialogPolicies)
+#include "tst_advancedoptionsdialog_policies.moc"

@@ -1,0 +1,366 @@
+// The dialog of advanced options: what it refuses to accept, and in which order.
+
+#include "advanceddesk.h"
+
+#include "support/testclock.h"
+
+#include <QTest>
+
+namespace {
+
+const QDateTime now(QDate(2031, 5, 7), QTime(12, 34, 56), Qt::UTC);
+
+void expectEmptyPassword(AdvancedDesk& desk)
+{
+    desk.robot.expectWarning(
+        QStringLiteral("Empty password field"),
+        QStringLiteral("<p>Please specify a password or disable any options requering it.</p>"));
+}
+
+void expectEarlyStart(AdvancedDesk& desk)
+{
+    desk.robot.expectWarning(QStringLiteral("Invalid START date"),
+                             QStringLiteral("<p>The START date/time must be at least 10 minutes after the "
+                                            "current date/time. Please check your settings.</p>"));
+}
+
+void expectEarlyStop(AdvancedDesk& desk)
+{
+    desk.robot.expectWarning(QStringLiteral("Invalid STOP date"),
+                             QStringLiteral("<p>The STOP date/time must be at least 20 minutes after the "
+                                            "current date/time. Please check your settings.</p>"));
+}
+
+void expectShortRun(AdvancedDesk& desk)
+{
+    desk.robot.expectWarning(
+        QStringLiteral("Invalid START and STOP date"),
+        QStringLiteral("<p>The STOP date/time must be at least 10 minutes after the START "
+                       "date/time. Please check your settings.</p>"));
+}
+
+void expectNoStart(AdvancedDesk& desk)
+{
+    desk.robot.expectWarning(QStringLiteral("No START enabled"),
+                             QStringLiteral("<p>No valid START configuration enabled.<br>Please enable at "
+                                            "least <b>one</b> START option.</p>"));
+}
+
+void expectNoStop(AdvancedDesk& desk)
+{
+    desk.robot.expectWarning(
+        QStringLiteral("No STOP enabled"),
+        QStringLiteral("<p>No valid STOP configuration enabled.<br>Please enable at least "
+                       "<b>one</b> STOP option.</p>"));
+}
+
+void expectCaution(AdvancedDesk& desk)
+{
+    desk.robot.expectWarning(
+        QStringLiteral("Attention"),
+        QStringLiteral(
+            "<p>Your current security configuration is <b>valid</b>.<br> However, it only allows a "
+            "RESET after the reports are generated, and <em>report generation</em> is password "
+            "protected.<br>Please note that, in such configuration, forgetting the device's "
+            "password will render it inoperative and non-resettable.<br>Please store its password "
+            "properly.</p>"));
+}
+
+} // namespace
+
+class TestAdvancedOptionsDialogRules : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void distances_data();
+    void distances();
+    void distancesToTheMillisecond();
+    void visibleDialogTellsOfDates_data();
+    void visibleDialogTellsOfDates();
+    void startInThePastPassesWithAStop();
+    void passwordIsDemanded_data();
+    void passwordIsDemanded();
+    void passwordComesFirst();
+    void datesComeBeforePolicies();
+    void startComesBeforeStop();
+    void startDateIsAStart();
+    void stopDateIsNoStop();
+    void oneStartAndOneStopSuffice_data();
+    void oneStartAndOneStopSuffice();
+    void resetBehindThePasswordIsCautioned_data();
+    void resetBehindThePasswordIsCautioned();
+    void refusalStoresNothing();
+    void cancelAsksForNothing();
+};
+
+void TestAdvancedOptionsDialogRules::cleanup()
+{
+    TestClock::reset();
+}
+
+// Seconds from now, on the device's clock; a date that is off is far in the past.
+void TestAdvancedOptionsDialogRules::distances_data()
+{
+    QTest::addColumn<bool>("startOn");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<bool>("stopOn");
+    QTest::addColumn<int>("stop");
+    QTest::addColumn<bool>("valid");
+    QTest::newRow("none") << false << 0 << false << 0 << true;
+    QTest::newRow("start, 599") << true << 599 << false << 0 << false;
+    QTest::newRow("start, 600") << true << 600 << false << 0 << true;
+    QTest::newRow("start, now") << true << 0 << false << 0 << false;
+    QTest::newRow("start, past") << true << -86400 << false << 0 << false;
+    QTest::newRow("stop, 1199") << false << 0 << true << 1199 << false;
+    QTest::newRow("stop, 1200") << false << 0 << true << 1200 << true;
+    QTest::newRow("stop, past") << false << 0 << true << -1200 << false;
+    QTest::newRow("both, 599 apart") << true << 3600 << true << 3600 + 599 << false;
+    QTest::newRow("both, 600 apart") << true << 3600 << true << 3600 + 600 << true;
+    QTest::newRow("both, in the past") << true << -86400 << true << -86400 + 600 << true;
+    QTest::newRow("both, start in the past") << true << -300 << true << 300 << true;
+    QTest::newRow("both, soon") << true << 0 << true << 599 << false;
+    QTest::newRow("both, stop first") << true << 7200 << true << 3600 << false;
+}
+
+// The dialog is hidden throughout, so no row brings a message.
+void TestAdvancedOptionsDialogRules::distances()
+{
+    QFETCH(bool, startOn);
+    QFETCH(int, start);
+    QFETCH(bool, stopOn);
+    QFETCH(int, stop);
+    for (const int offset : {0, 7200, -34200}) {
+        AdvancedDesk desk;
+        desk.dialog.lSetTimeZoneOffset(offset);
+        // Half a second more, as some milliseconds pass meanwhile.
+        const QDateTime wallClock = now.addSecs(offset).addMSecs(500);
+        desk.dialog.lSetStartDate(startOn, wallClock.addSecs(start));
+        desk.dialog.lSetStopDate(stopOn, wallClock.addSecs(stop));
+        holdClock(now);
+        QTEST(desk.dialog.lValidateDates(), "valid");
+        QCOMPARE(desk.robot.problems(), QString());
+    }
+}
+
+void TestAdvancedOptionsDialogRules::distancesToTheMillisecond()
+{
+    AdvancedDesk desk;
+    desk.dialog.lSetTimeZoneOffset(-34200);
+    const QDateTime limit = now.addSecs(-34200 + 600);
+    desk.dialog.lSetStartDate(true, limit.addMSecs(-1));
+    holdClock(now);
+    QVERIFY(!desk.dialog.lValidateDates());
+    desk.dialog.lSetStartDate(true, limit.addMSecs(20));
+    holdClock(now);
+    QVERIFY(desk.dialog.lValidateDates());
+
+    desk.dialog.lSetStopDate(true, limit.addMSecs(20).addSecs(600));
+    QVERIFY(desk.dialog.lValidateDates());
+    desk.dialog.lSetStopDate(true, limit.addMSecs(19).addSecs(600));
+    QVERIFY(!desk.dialog.lValidateDates());
+}
+
+void TestAdvancedOptionsDialogRules::visibleDialogTellsOfDates_data()
+{
+    QTest::addColumn<bool>("startOn");
+    QTest::addColumn<bool>("stopOn");
+    QTest::newRow("start") << true << false;
+    QTest::newRow("stop") << false << true;
+    QTest::newRow("both") << true << true;
+}
+
+void TestAdvancedOptionsDialogRules::visibleDialogTellsOfDates()
+{
+    QFETCH(bool, startOn);
+    QFETCH(bool, stopOn);
+    AdvancedDesk desk;
+    desk.dialog.lSetStartDate(startOn, QDateTime::currentDateTimeUtc());
+    desk.dialog.lSetStopDate(stopOn, QDateTime::currentDateTimeUtc());
+    desk.open();
+    if (startOn && stopOn)
+        expectShortRun(desk);
+    else
+        startOn ? expectEarlyStart(desk) : expectEarlyStop(desk);
+    QVERIFY(!desk.accept());
+    QCOMPARE(desk.robot.problems(), QString());
+}
+
+void TestAdvancedOptionsDialogRules::startInThePastPassesWithAStop()
+{
+    AdvancedDesk desk;
+    desk.dialog.lSetStartDate(true, now.addYears(-20));
+    desk.dialog.lSetStopDate(true, now.addYears(-20).addSecs(600));
+    desk.open();
+    QVERIFY(desk.accept());
+    QCOMPARE(desk.robot.problems(), QString());
+}
+
+void TestAdvancedOptionsDialogRules::passwordIsDemanded_data()
+{
+    QTest::addColumn<bool>("demanded");
+    QTest::newRow("checkConfigPassw") << true;
+    QTest::newRow("radioPasswOnce") << true;
+    QTest::newRow("radioPasswAlways") << true;
+    QTest::newRow("radioPasswNone") << false;
+}
+
+void TestAdvancedOptionsDialogRules::passwordIsDemanded()
+{
+    QFETCH(bool, demanded);
+    AdvancedDesk desk;
+    desk.dialog.lSetPassword(QStringLiteral("earlier"));
+    desk.open();
+    desk.check(QTest::currentDataTag());
+    desk.passwordField()->clear();
+    if (demanded)
+        expectEmptyPassword(desk);
+    QCOMPARE(desk.accept(), !demanded);
+    QCOMPARE(desk.dialog.lPassword(), QStringLiteral("earlier"));
+    QCOMPARE(desk.robot.problems(), QString());
+}
+
+void TestAdvancedOptionsDialogRules::passwordComesFirst()
+{
+    AdvancedDesk desk;
+    desk.dialog.lSetPolicies(4);
+    desk.dialog.lSetStopDate(true, now.addYears(-20));
+    desk.open();
+    expectEmptyPassword(desk);
+    QVERIFY(!desk.accept());
+    QCOMPARE(desk.robot.problems(), QString());
+}
+
+void TestAdvancedOptionsDialogRules::datesComeBeforePolicies()
+{
+    AdvancedDesk desk;
+    desk.dialog.lSetPolicies(0);
+    desk.dialog.lSetStopDate(true, now.addYears(-20));
+    desk.open();
+    expectEarlyStop(desk);
+    QVERIFY(!desk.accept());
+    QCOMPARE(desk.robot.problems(), QString());
+}
+
+void TestAdvancedOptionsDialogRules::startComesBeforeStop()
+{
+    AdvancedDesk desk;
+    desk.dialog.lSetPolicies(0);
+    desk.open();
+    expectNoStart(desk);
+    QVERIFY(!desk.accept());
+    desk.check("checkStartButton");
+    expectNoStop(desk);
+    QVERIFY(!desk.accept());
+    desk.check("checkStopButton");
+    QVERIFY(desk.accept());
+    QCOMPARE(desk.robot.problems(), QString());
+}
+
+void TestAdvancedOptionsDialogRules::startDateIsAStart()
+{
+    AdvancedDesk desk;
+    desk.dialog.lSetPolicies(256);
+    desk.dialog.lSetStartDate(true, QDateTime::currentDateTimeUtc().addDays(1));
+    desk.open();
+    QVERIFY(desk.accept());
+    QCOMPARE(desk.robot.problems(), QString());
+}
+
+void TestAdvancedOptionsDialogRules::stopDateIsNoStop()
+{
+    AdvancedDesk desk;
+    desk.dialog.lSetPolicies(3);
+    desk.dialog.lSetStopDate(true, QDateTime::currentDateTimeUtc().addDays(1));
+    desk.open();
+    expectNoStop(desk);
+    QVERIFY(!desk.accept());
+    QCOMPARE(desk.robot.problems(), QString());
+}
+
+void TestAdvancedOptionsDialogRules::oneStartAndOneStopSuffice_data()
+{
+    QTest::addColumn<QByteArray>("start");
+    QTest::addColumn<QByteArray>("stop");
+    for (const char* start : {"checkStartButton", "checkStartSoftware"}) {
+        for (const char* stop : {"checkStopButton", "checkStopUSBAttach"})
+            QTest::addRow("%s %s", start, stop) << QByteArray(start) << QByteArray(stop);
+    }
+}
+
+void TestAdvancedOptionsDialogRules::oneStartAndOneStopSuffice()
+{
+    QFETCH(QByteArray, start);
+    QFETCH(QByteArray, stop);
+    AdvancedDesk desk;
+    desk.dialog.lSetPolicies(0);
+    desk.open();
+    desk.check(start);
+    desk.check(stop);
+    QVERIFY(desk.accept());
+    QCOMPARE(desk.robot.problems(), QString());
+}
+
+void TestAdvancedOptionsDialogRules::resetBehindThePasswordIsCautioned_data()
+{
+    QTest::addColumn<int>("policies");
+    QTest::addColumn<bool>("cautioned");
+    QTest::newRow("once") << 259 + 8192 + 1024 << true;
+    QTest::newRow("always") << 259 + 8192 + 2048 << true;
+    QTest::newRow("configuration only") << 259 + 8192 + 4 << false;
+    QTest::newRow("reset at any time") << 259 + 4 + 2048 << false;
+    QTest::newRow("no password") << 259 + 8192 << false;
+}
+
+// The same with a Single-use device, whose reset options can't be changed.
+void TestAdvancedOptionsDialogRules::resetBehindThePasswordIsCautioned()
+{
+    QFETCH(int, policies);
+    QFETCH(bool, cautioned);
+    for (const bool multiuse : {true, false}) {
+        AdvancedDesk desk;
+        desk.dialog.lSetMultiuse(multiuse);
+        desk.dialog.lSetPassword(QStringLiteral("secret"));
+        desk.dialog.lSetPolicies(policies);
+        desk.open();
+        if (cautioned)
+            expectCaution(desk);
+        QVERIFY(desk.accept());
+        QCOMPARE(desk.dialog.lPolicies(), policies);
+        QCOMPARE(desk.robot.problems(), QString());
+    }
+}
+
+void TestAdvancedOptionsDialogRules::refusalStoresNothing()
+{
+    AdvancedDesk desk;
+    desk.dialog.lSetPassword(QStringLiteral("old"));
+    desk.dialog.lSetButtonLock(false);
+    desk.open();
+    desk.check("checkLockButton");
+    desk.check("checkConfigPassw");
+    desk.check("checkStopButton", false);
+    desk.passwordField()->setText(QStringLiteral("new"));
+    expectNoStop(desk);
+    QVERIFY(!desk.accept());
+    QCOMPARE(desk.dialog.lPolicies(), 259);
+    QCOMPARE(desk.dialog.lPassword(), QStringLiteral("old"));
+    QVERIFY(!desk.dialog.lButtonLock());
+    QCOMPARE(desk.passwordField()->text(), QStringLiteral("new"));
+    QCOMPARE(desk.robot.problems(), QString());
+}
+
+void TestAdvancedOptionsDialogRules::cancelAsksForNothing()
+{
+    AdvancedDesk desk;
+    desk.dialog.lSetPolicies(4);
+    desk.dialog.lSetStartDate(true, now.addYears(-20));
+    desk.open();
+    desk.dialog.reject();
+    QVERIFY(!desk.dialog.isVisible());
+    QCOMPARE(desk.robot.problems(), QString());
+}
+
+QTEST_MAIN(TestAdvancedOptionsDialogRules)
+#include "tst_advancedoptionsdialog_rules.moc"
