@@ -30,7 +30,7 @@ public:
     QAbstractButton* button(const char* name) const { return find<QAbstractButton>(name); }
     bool isChecked(const char* name) const { return button(name)->isChecked(); }
     bool isEnabled(const char* name) const { return find<QWidget>(name)->isEnabled(); }
-    void check(const char* name, bool checked = true) { button(name)->setChecked(checked); }
+    void check(const char* name, bool checked = true) const { button(name)->setChecked(checked); }
     QLineEdit* passwordField() const { return find<QLineEdit>("linePassw"); }
 
     /// The dialog's own stored dates, or an invalid one when they are off.
