@@ -64,7 +64,11 @@ bool DialogHand::eventFilter(QObject* watched, QEvent* event)
     auto* dialog = qobject_cast<QDialog*>(watched);
     if (dialog && event->type() == QEvent::Show && !qobject_cast<QMessageBox*>(watched)) {
         seen++;
-        atNextChance(dialog, [this, dialog] { action(dialog); });
+        atNextChance(dialog, [this, dialog] {
+            action(dialog);
+            if (dialog->isVisible())
+                dialog->reject();
+        });
     }
     return QObject::eventFilter(watched, event);
 }

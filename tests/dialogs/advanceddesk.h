@@ -49,7 +49,8 @@ public:
     DialogRobot robot;
 };
 
-/// Does @p action with the next plain dialog that opens, once it is open; the action has to close it.
+/// Does @p action with a plain dialog that opens, once it is open. A dialog that is still open then is
+/// cancelled, so that nothing hangs.
 class DialogHand : public QObject
 {
     Q_OBJECT
