@@ -42,7 +42,7 @@ private slots:
 
 private:
     static void chooseByHand(SettingsDesk& desk, const char* language);
-    static void expectNotice(SettingsDesk& desk);
+    static void openAndChooseFrench(SettingsDesk& desk);
 };
 
 void TestSettingsDialogLanguages::chooseByHand(SettingsDesk& desk, const char* language)
@@ -51,12 +51,15 @@ void TestSettingsDialogLanguages::chooseByHand(SettingsDesk& desk, const char* l
     combo->setCurrentIndex(combo->findData(QLatin1String(language)));
 }
 
-void TestSettingsDialogLanguages::expectNotice(SettingsDesk& desk)
+void TestSettingsDialogLanguages::openAndChooseFrench(SettingsDesk& desk)
 {
+    desk.dialog.setLanguages(someLanguages());
+    desk.open();
     desk.robot.expectInformation(
         QStringLiteral("Information"),
         QStringLiteral(
             "Veuillez cliquer sur OK et redémarrer l'application pour que ces paramètres prennent effet."));
+    chooseByHand(desk, "fr_fr");
 }
 
 void TestSettingsDialogLanguages::listIsInTheOrderOfTheKeys()
@@ -161,10 +164,7 @@ void TestSettingsDialogLanguages::choiceByHandIsAnsweredInItsLanguage()
 void TestSettingsDialogLanguages::choiceIsNotWrittenYet()
 {
     SettingsDesk desk(settingsOf("en_us"));
-    desk.dialog.setLanguages(someLanguages());
-    desk.open();
-    expectNotice(desk);
-    chooseByHand(desk, "fr_fr");
+    openAndChooseFrench(desk);
     QCOMPARE(WorkFolder::configuration().value(QStringLiteral("language")), QStringLiteral("en_us"));
     QCOMPARE(desk.robot.problems(), QString());
 }
@@ -172,10 +172,7 @@ void TestSettingsDialogLanguages::choiceIsNotWrittenYet()
 void TestSettingsDialogLanguages::cancelledChoiceReachesTheFileAtTheEnd()
 {
     SettingsDesk desk(settingsOf("en_us"));
-    desk.dialog.setLanguages(someLanguages());
-    desk.open();
-    expectNotice(desk);
-    chooseByHand(desk, "fr_fr");
+    openAndChooseFrench(desk);
     desk.dialog.reject();
     desk.dialog.saveSettings();
     QCOMPARE(WorkFolder::configuration().value(QStringLiteral("language")), QStringLiteral("fr_fr"));
@@ -185,10 +182,7 @@ void TestSettingsDialogLanguages::cancelledChoiceReachesTheFileAtTheEnd()
 void TestSettingsDialogLanguages::anotherOpeningForgetsTheChoice()
 {
     SettingsDesk desk(settingsOf("en_us"));
-    desk.dialog.setLanguages(someLanguages());
-    desk.open();
-    expectNotice(desk);
-    chooseByHand(desk, "fr_fr");
+    openAndChooseFrench(desk);
     desk.dialog.reject();
     desk.open();
     desk.dialog.reject();
@@ -200,10 +194,7 @@ void TestSettingsDialogLanguages::anotherOpeningForgetsTheChoice()
 void TestSettingsDialogLanguages::anotherOpeningKeepsTheChoiceIfTheFileHasNone()
 {
     SettingsDesk desk({{QStringLiteral("fontsize"), QStringLiteral("12")}});
-    desk.dialog.setLanguages(someLanguages());
-    desk.open();
-    expectNotice(desk);
-    chooseByHand(desk, "fr_fr");
+    openAndChooseFrench(desk);
     desk.dialog.reject();
     desk.open();
     desk.dialog.reject();
