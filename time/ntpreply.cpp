@@ -5,14 +5,15 @@
 #include <QtEndian>
 
 #include <cmath>
+#include <utility>
 
 class NtpReplyData : public QSharedData
 {
 public:
     NtpReplyData() = default;
-    NtpReplyData(const Ntp::Packet& packet, const QDateTime& destinationTime)
+    NtpReplyData(const Ntp::Packet& packet, QDateTime destinationTime)
         : packet(packet)
-        , destinationTime(destinationTime)
+        , destinationTime(std::move(destinationTime))
     {
     }
 
@@ -53,12 +54,12 @@ int NtpReply::leapIndicator() const
 
 int NtpReply::versionNumber() const
 {
-    return d->packet[Ntp::flagsField] >> 3U & 7U;
+    return static_cast<int>(d->packet[Ntp::flagsField] >> 3U & 7U);
 }
 
 int NtpReply::mode() const
 {
-    return d->packet[Ntp::flagsField] & 7U;
+    return static_cast<int>(d->packet[Ntp::flagsField] & 7U);
 }
 
 quint8 NtpReply::stratum() const

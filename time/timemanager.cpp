@@ -91,7 +91,7 @@ void TimeManager::plAddPoolWorker(const QString& host)
     poolWorkers.append(worker);
 }
 
-void TimeManager::plOnSingleWorkerReply(QDateTime time)
+void TimeManager::plOnSingleWorkerReply(const QDateTime& time)
 {
     keeper.setTime(time);
     plFinishQuery(true);
@@ -102,7 +102,7 @@ void TimeManager::plOnSingleWorkerTimeout()
     plFinishQuery(false);
 }
 
-void TimeManager::plOnPoolWorkerReply(QDateTime time)
+void TimeManager::plOnPoolWorkerReply(const QDateTime& time)
 {
     if (!querying)
         return;

@@ -64,9 +64,9 @@ signals:
     void sQueryTimeout();
 
 private slots:
-    void plOnSingleWorkerReply(QDateTime time);
+    void plOnSingleWorkerReply(const QDateTime& time);
     void plOnSingleWorkerTimeout();
-    void plOnPoolWorkerReply(QDateTime time);
+    void plOnPoolWorkerReply(const QDateTime& time);
     void plOnPoolWorkerTimeout();
 
 private:

@@ -35,7 +35,7 @@ const QList<TimeZoneMatch>& TimeManager::timeZones() const
 
 TimeZoneMatch TimeManager::matchTimeZoneByOffset(int offset) const
 {
-    const TimeZoneMatch match =
+    TimeZoneMatch match =
         nearest(zones, [offset](const TimeZoneMatch& zone) { return qint64(offset) - zone.offset; });
     if (match.id == -1)
         qDebug() << "Unable to match Timezone for offset" << offset;
@@ -51,7 +51,7 @@ TimeZoneMatch TimeManager::matchTimeZoneByDateTime(const QDate& date, const QTim
     qDebug() << "Matching:" << device;
     qDebug() << "Ref(UTC):" << now;
 
-    const TimeZoneMatch match = nearest(
+    TimeZoneMatch match = nearest(
         zones, [&](const TimeZoneMatch& zone) { return device.secsTo(reference.addSecs(zone.offset)); });
     if (match.id == -1)
         qDebug() << "Unable to match Timezone for date " << date << " " << time;

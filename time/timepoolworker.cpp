@@ -29,7 +29,7 @@ void TimePoolWorker::query(const QString& host)
     timeoutTimer.start(queryTimeout);
 }
 
-void TimePoolWorker::plOnServerInfo(QHostInfo host)
+void TimePoolWorker::plOnServerInfo(const QHostInfo& host)
 {
     if (host.error() != QHostInfo::NoError || host.addresses().isEmpty())
         return;
@@ -46,7 +46,7 @@ void TimePoolWorker::plEmitNtpRequest()
     ntpClient.sendRequest(address, ntpPort);
 }
 
-void TimePoolWorker::plOnNtpReply(QHostAddress /*host*/, quint16 /*port*/, NtpReply reply)
+void TimePoolWorker::plOnNtpReply(const QHostAddress& /*host*/, quint16 /*port*/, const NtpReply& reply)
 {
     if (!timeoutTimer.isActive())
         return;

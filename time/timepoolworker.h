@@ -28,9 +28,9 @@ signals:
     void sQueryTimeout();
 
 private slots:
-    void plOnServerInfo(QHostInfo host);
+    void plOnServerInfo(const QHostInfo& host);
     void plEmitNtpRequest();
-    void plOnNtpReply(QHostAddress host, quint16 port, NtpReply reply);
+    void plOnNtpReply(const QHostAddress& host, quint16 port, const NtpReply& reply);
     void plTimeout();
 
 private:
