@@ -18,6 +18,18 @@ QString dateText(const QDateTime& date, const char* zone)
     return date.toString(QStringLiteral("hh:mm dd/MMM/yyyy")) + QStringLiteral(" (%1)").arg(zone);
 }
 
+/// Opens the dialog on an old password without a lock, and changes a bit each way, the lock and the password.
+void editEverything(AdvancedDesk& desk)
+{
+    desk.dialog.lSetPassword(QStringLiteral("old"));
+    desk.dialog.lSetButtonLock(false);
+    desk.open();
+    desk.check("checkStartButton", false);
+    desk.check("checkConfigPassw");
+    desk.check("checkLockButton");
+    desk.passwordField()->setText(QStringLiteral("new"));
+}
+
 } // namespace
 
 class TestAdvancedOptionsDialogStore : public QObject
@@ -143,13 +155,7 @@ void TestAdvancedOptionsDialogStore::datesThatAreOffAreNotHandedOut()
 void TestAdvancedOptionsDialogStore::cancelKeepsTheValues()
 {
     AdvancedDesk desk;
-    desk.dialog.lSetPassword(QStringLiteral("old"));
-    desk.dialog.lSetButtonLock(false);
-    desk.open();
-    desk.check("checkStartButton", false);
-    desk.check("checkConfigPassw");
-    desk.check("checkLockButton");
-    desk.passwordField()->setText(QStringLiteral("new"));
+    editEverything(desk);
     desk.dialog.reject();
     QCOMPARE(desk.dialog.lPolicies(), 259);
     QCOMPARE(desk.dialog.lPassword(), QStringLiteral("old"));
@@ -159,13 +165,7 @@ void TestAdvancedOptionsDialogStore::cancelKeepsTheValues()
 void TestAdvancedOptionsDialogStore::acceptTakesTheValues()
 {
     AdvancedDesk desk;
-    desk.dialog.lSetPassword(QStringLiteral("old"));
-    desk.dialog.lSetButtonLock(false);
-    desk.open();
-    desk.check("checkStartButton", false);
-    desk.check("checkConfigPassw");
-    desk.check("checkLockButton");
-    desk.passwordField()->setText(QStringLiteral("new"));
+    editEverything(desk);
     QCOMPARE(desk.dialog.lPolicies(), 259);
     QVERIFY(desk.accept());
     QCOMPARE(desk.dialog.lPolicies(), 256 + 2 + 4);
