@@ -77,6 +77,18 @@ void PresetFiles::fill(PresetStorage* storage, const Table& table)
         storage->setValue(entry.key(), entry.value());
 }
 
+PresetFiles::Table PresetFiles::throughAFile(const Table& table)
+{
+    const Folder folder;
+    const QString path = folder.path(QStringLiteral("preset"));
+    PresetStorage saved;
+    fill(&saved, table);
+    PresetStorage loaded;
+    if (!saved.save(path) || !loaded.load(path))
+        qFatal("the table didn't pass through its file");
+    return contents(loaded);
+}
+
 QByteArray PresetFiles::read(const QString& path)
 {
     QFile file(path);

@@ -28,6 +28,9 @@ Table entries(const QByteArray& body);
 /// Everything in @p storage, under the same conditions.
 Table contents(PresetStorage& storage);
 void fill(PresetStorage* storage, const Table& table);
+/// What a storage holds that has loaded what another one saved of @p table; the test program ends if either
+/// fails.
+Table throughAFile(const Table& table);
 
 QByteArray read(const QString& path);
 bool write(const QString& path, const QByteArray& bytes);
