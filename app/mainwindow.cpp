@@ -5,6 +5,8 @@
 #include "app/buttonicon.h"
 #include "app/statustipfilter.h"
 #include "device/brumaloggerinterface.h"
+#include "dialogs/advancedoptionsdialog.h"
+#include "dialogs/passworddialog.h"
 #include "dialogs/settingsdialog.h"
 #include "presets/presetstorage.h"
 #include "time/timemanager.h"
@@ -59,6 +61,8 @@ MainWindow::MainWindow(QWidget* parent)
     , settingsDialog(new SettingsDialog(this))
     , presetStorage(new PresetStorage(this))
     , timeManager(new TimeManager(nullptr))
+    , passwordDialog(new PasswordDialog(this))
+    , advancedOptionsDialog(new AdvancedOptionsDialog(this))
 {
     Q_INIT_RESOURCE(images);
     ui->setupUi(this);
@@ -73,6 +77,7 @@ MainWindow::MainWindow(QWidget* parent)
     installEventFilter(new StatusTipFilter(this));
     plSetUpButtons();
     ui->buttonAdvanced->hide();
+    passwordDialog->lSetDevice(device);
     settingsDialog->loadSettings();
     plSettingsAccepted();
     const QSize savedSize = settingsDialog->savedWindowSize();
@@ -106,6 +111,7 @@ void MainWindow::plConnectSignals()
                           ui->labelHardwareRevision, ui->labelLastReset, ui->labelType})
         connect(label, &QLabel::customContextMenuRequested, this,
                 [this, label] { plProcessCustomLabelMenu(label); });
+    connect(ui->buttonAdvanced, &QPushButton::clicked, this, &MainWindow::plProcessAdvancedOptionsDialog);
     const auto indexChanged = QOverload<int>::of(&QComboBox::currentIndexChanged);
     connect(ui->comboTemp, indexChanged, this, &MainWindow::plUpdateTempRange);
     connect(ui->comboSampling, indexChanged, this, &MainWindow::plUpdateSamplingTime);
@@ -168,8 +174,19 @@ void MainWindow::closeEvent(QCloseEvent* event)
     }
     closed = true;
     settingsDialog->saveSettings();
+    plRejectDialogs();
     device->lDisconnect();
     event->accept();
+}
+
+// None of them outlives the window or its device on the screen.
+void MainWindow::plRejectDialogs()
+{
+    for (QDialog* dialog : std::initializer_list<QDialog*>{settingsDialog.data(), passwordDialog.data(),
+                                                           advancedOptionsDialog.data()}) {
+        if (dialog->isVisible())
+            dialog->reject();
+    }
 }
 
 void MainWindow::plDisableControls(bool disabled)

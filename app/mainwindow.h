@@ -11,7 +11,9 @@
 #include <QString>
 #include <QStringList>
 
+class AdvancedOptionsDialog;
 class BrumaloggerInterface;
+class PasswordDialog;
 class PresetStorage;
 class QComboBox;
 class QLabel;
@@ -70,6 +72,9 @@ private slots:
     // mainwindow_setup.cpp
     void plValidateTempRange();
 
+    // mainwindow_extended.cpp
+    void plProcessAdvancedOptionsDialog();
+
     // mainwindow_display.cpp
     void plProcessCustomLabelMenu(QLabel* label);
 
@@ -105,6 +110,7 @@ private:
     void plConnectChanges();
     void plConnectServices();
     void plSetUpButtons();
+    void plRejectDialogs();
     void plDisableControls(bool disabled);
     /// A question with Yes and No.
     QMessageBox::StandardButton plAsk(const QString& title, const QString& text);
@@ -144,6 +150,8 @@ private:
     void plCloseConnection();
     /// The way out of a procedure: disconnects unless the link is closed already.
     void plLeaveDevice();
+    /// Disconnects from a device whose record of time can't be trusted.
+    void plOnInvalidDevice();
     void plShowConnectButton();
     void plShowDisconnectButton();
     /// The key goes into %1 of @p toolTip.
@@ -153,12 +161,14 @@ private:
     bool plRead();
     void plClearBeforeRead();
     [[nodiscard]] StepResult plReadSteps(StepProgress& progress);
-    [[nodiscard]] StepResult plReadParameters(StepProgress& progress);
+    [[nodiscard]] StepResult plReadIdentity(StepProgress& progress);
+    [[nodiscard]] StepResult plReadClock(StepProgress& progress);
+    [[nodiscard]] StepResult plReadSetup(StepProgress& progress);
     int plReadTexts(StepProgress& progress);
     void plShowIdentification(const QString& name, const QString& firmware, const QString& hardware);
     void plShowType(bool multiuse);
-    void plShowClock(const QDateTime& now);
-    void plFinishRead(StepProgress& progress, StepResult result);
+    /// False when the read failed or the device is not valid. The link is kept only with all @p stepsDone.
+    bool plFinishRead(StepProgress& progress, StepResult result, bool stepsDone);
 
     // mainwindow_write.cpp
     [[nodiscard]] StepResult plWriteSteps(StepProgress& progress);
@@ -171,11 +181,27 @@ private:
     // mainwindow_start.cpp
     bool plMayStart();
 
+    // mainwindow_extended.cpp
+    /// False when the device doesn't say whether it is locked.
+    bool plOpenLock();
+    /// Sets the device to the computer's clock, which @p now takes.
+    void plRepairClock(QDateTime* now);
+    /// Policies, zone and automatic dates, with the bar running on from @p firstValue.
+    [[nodiscard]] StepResult plReadOptions(StepProgress& progress, int firstValue);
+    /// False when the device doesn't tell of its battery.
+    bool plReadCondition();
+    /// Nothing is sent, and nothing has failed, without a reference time.
+    [[nodiscard]] StepResult plSynchroniseTime(StepProgress& progress);
+    /// Policies, automatic dates and password, with the bar running on from @p firstValue.
+    [[nodiscard]] StepResult plWriteOptions(StepProgress& progress, int firstValue);
+
     Ui::MainWindow* ui;
     QSharedPointer<BrumaloggerInterface> device;
     QSharedPointer<SettingsDialog> settingsDialog;
     QSharedPointer<PresetStorage> presetStorage; ///< for all presets
     QSharedPointer<TimeManager> timeManager;
+    QSharedPointer<PasswordDialog> passwordDialog;
+    QSharedPointer<AdvancedOptionsDialog> advancedOptionsDialog; ///< also keeps what it shows
     const QString dateTimeDisplayFormat = QStringLiteral("hh:mm:ss dd/MMM/yyyy");
     bool keepConnecting = false; ///< false once a connect under way is over and must say nothing more
     bool deviceLocked = false;   ///< the device's password lock is on and wasn't opened
@@ -192,7 +218,7 @@ private:
     QList<QPair<float, float>> tempRanges;
     QList<int> sampleTimes;
     bool modified = false;
-    /// Connect, read, write or start; a click that arrives meanwhile is not obeyed.
+    /// Connect, read, write, start or the advanced options; a click that arrives meanwhile is not obeyed.
     bool procedureRuns = false;
     bool shownBefore = false;
     bool closed = false; ///< a procedure may still be under way then

@@ -4,6 +4,7 @@
 
 #include "app/buttonicon.h"
 #include "device/brumaloggerinterface.h"
+#include "dialogs/advancedoptionsdialog.h"
 #include "ui_mainwindow.h"
 
 #include <QScopedValueRollback>
@@ -67,6 +68,22 @@ void MainWindow::plLeaveDevice()
 {
     if (device->lIsConnected())
         plCloseConnection();
+}
+
+// A device that has gone silent comes here as well.
+void MainWindow::plOnInvalidDevice()
+{
+    if (!device->lIsConnected())
+        return;
+    plDisableControls(true);
+    keepConnecting = false;
+    ui->statusBar->showMessage(tr("Invalid device detected."));
+    plWarn(tr("Warning"),
+           tr("This device is in an invalid state.\nNo connection can be established. Aborting."));
+    // The reference time may have come while the options of this very device were open.
+    if (advancedOptionsDialog->isVisible())
+        advancedOptionsDialog->reject();
+    plLeaveDevice();
 }
 
 void MainWindow::plShowConnectButton()

@@ -11,6 +11,7 @@
 #include <QDebug>
 #include <QGuiApplication>
 #include <QMenu>
+#include <QScopedValueRollback>
 
 void MainWindow::plSettingsAccepted()
 {
@@ -49,8 +50,15 @@ void MainWindow::plOnTimeManagerConnect()
 {
     if (settingsDialog->timeEnabled())
         ui->statusBar->showMessage(tr("Successfully fetched time and date from %1.").arg(plTimeSource()));
-    if (!controlsDisabled)
-        plUpdateTimeZoneLabel();
+    if (controlsDisabled)
+        return;
+    plUpdateTimeZoneLabel();
+    // A start leaves the controls enabled, and nothing may come between its commands.
+    if (device->lIsBusy())
+        return;
+    const QScopedValueRollback<bool> guard(procedureRuns, true);
+    if (!device->lIsDeviceValid(timeManager->currentTimeUtc()))
+        plOnInvalidDevice();
 }
 
 void MainWindow::plOnTimeManagerTimeout()

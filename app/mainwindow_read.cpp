@@ -4,15 +4,20 @@
 
 #include "app/stepprogress.h"
 #include "device/brumaloggerinterface.h"
+#include "dialogs/advancedoptionsdialog.h"
+#include "time/timemanager.h"
 #include "ui_mainwindow.h"
 
 #include <QScopedValueRollback>
 
 namespace {
 
+constexpr int clockValue = 3;
+constexpr int firstSetupValue = 4;
 constexpr int firstTextValue = 8;
 /// The bar still passes through the values of what older firmware doesn't have.
 constexpr int spareValues = 3;
+constexpr int earliestTimestamp = 1483228800; // the first second of 2017; before it no logger was made
 
 // "01.02.03" shows as "1.2.3".
 QString normalisedVersion(const QString& version)
@@ -35,6 +40,7 @@ bool MainWindow::plReadFromDevice()
 
 bool MainWindow::plRead()
 {
+    deviceLocked = false;
     plDisableControls(true);
     if (modified && plAsk(tr("Read from device"), tr("Reading from the device now will erase your changes.\n"
                                                      "Do you wish to proceed?")) == QMessageBox::No) {
@@ -43,6 +49,10 @@ bool MainWindow::plRead()
     }
     device->lWait(device->lWaitTime());
     const bool identified = device->lGetIdentification(nullptr, nullptr, nullptr);
+    if (identified && device->lIsExtendedFirmware() && !plOpenLock())
+        return false;
+    if (deviceLocked)
+        return true;
     if (closed)
         return false;
     ui->statusBar->showMessage(tr("Reading from device on %1").arg(device->lPortName()));
@@ -50,9 +60,11 @@ bool MainWindow::plRead()
 
     StepProgress progress(tr("Reading from device"), windowTitleBase, this);
     plClearBeforeRead();
-    const StepResult result = identified ? plReadSteps(progress) : StepResult::Failed;
-    plFinishRead(progress, result);
-    return result != StepResult::Failed;
+    StepResult result = identified ? plReadSteps(progress) : StepResult::Failed;
+    const bool stepsDone = result == StepResult::Done;
+    if (stepsDone && device->lIsExtendedFirmware() && !plReadCondition())
+        result = StepResult::Failed;
+    return plFinishRead(progress, result, stepsDone);
 }
 
 void MainWindow::plClearBeforeRead()
@@ -64,30 +76,59 @@ void MainWindow::plClearBeforeRead()
 
 StepResult MainWindow::plReadSteps(StepProgress& progress)
 {
-    StepResult result = plReadParameters(progress);
-    if (result != StepResult::Done)
-        return result;
-
-    const int textsRead = plReadTexts(progress);
+    for (const auto part :
+         {&MainWindow::plReadIdentity, &MainWindow::plReadClock, &MainWindow::plReadSetup}) {
+        const StepResult result = (this->*part)(progress);
+        if (result != StepResult::Done)
+            return result;
+    }
+    const int nextValue = firstTextValue + plReadTexts(progress);
     QString shipmentType;
-    result = progress.judge(device->lGetText(shipmentTypeSlot, &shipmentType));
+    const StepResult result = progress.judge(device->lGetText(shipmentTypeSlot, &shipmentType));
     if (result != StepResult::Done)
         return result;
     plSetShipmentType(shipmentType);
 
-    if (!device->lIsExtendedFirmware())
-        progress.passThrough(firstTextValue + textsRead, spareValues);
+    if (device->lIsExtendedFirmware())
+        return plReadOptions(progress, nextValue);
+    progress.passThrough(nextValue, spareValues);
     return StepResult::Done;
 }
 
-StepResult MainWindow::plReadParameters(StepProgress& progress)
+StepResult MainWindow::plReadIdentity(StepProgress& progress)
 {
     QString serial;
     QString name;
     QString firmware;
     QString hardware;
     bool multiuse = false;
+
+    const std::vector<Step> steps{
+        {[&] { return device->lGetSerial(&serial); }, [&] { ui->labelSerial->setText(serial); }},
+        {[&] { return device->lGetIdentification(&name, &firmware, &hardware); },
+         [&] { plShowIdentification(name, firmware, hardware); }},
+        {[&] { return device->lGetMultiuse(&multiuse); }, [&] { plShowType(multiuse); }},
+    };
+    return progress.walk(steps, 0);
+}
+
+StepResult MainWindow::plReadClock(StepProgress& progress)
+{
     QDateTime now;
+    const StepResult result = progress.judge(device->lGetDateTime(&now));
+    if (result != StepResult::Done)
+        return result;
+    if (device->lIsExtendedFirmware() && device->lTimestamp() < earliestTimestamp)
+        plRepairClock(&now);
+    progress.setValue(clockValue);
+    timeKeeper.setTime(now);
+    timeKeeper.setRunning(true);
+    plUpdateDateTime();
+    return StepResult::Done;
+}
+
+StepResult MainWindow::plReadSetup(StepProgress& progress)
+{
     float tempMin = 0;
     float tempMax = 0;
     int samplingTime = 0;
@@ -95,18 +136,17 @@ StepResult MainWindow::plReadParameters(StepProgress& progress)
     bool locked = false;
 
     const std::vector<Step> steps{
-        {[&] { return device->lGetSerial(&serial); }, [&] { ui->labelSerial->setText(serial); }},
-        {[&] { return device->lGetIdentification(&name, &firmware, &hardware); },
-         [&] { plShowIdentification(name, firmware, hardware); }},
-        {[&] { return device->lGetMultiuse(&multiuse); }, [&] { plShowType(multiuse); }},
-        {[&] { return device->lGetDateTime(&now); }, [&] { plShowClock(now); }},
         {[&] { return device->lGetTempRange(&tempMin, &tempMax); },
          [&] { plSetTempRange(tempMin, tempMax); }},
         {[&] { return device->lGetSamplingTime(&samplingTime); }, [&] { plSetSamplingTime(samplingTime); }},
         {[&] { return device->lGetStartDelay(&startDelay); }, [&] { plSetStartDelay(startDelay); }},
-        {[&] { return device->lGetButtonLock(&locked); }, [&] { ui->checkLock->setChecked(locked); }},
+        {[&] { return device->lGetButtonLock(&locked); },
+         [&] {
+             ui->checkLock->setChecked(locked);
+             advancedOptionsDialog->lSetButtonLock(locked);
+         }},
     };
-    return progress.walk(steps, 0);
+    return progress.walk(steps, firstSetupValue);
 }
 
 void MainWindow::plShowIdentification(const QString& name, const QString& firmware, const QString& hardware)
@@ -119,13 +159,7 @@ void MainWindow::plShowIdentification(const QString& name, const QString& firmwa
 void MainWindow::plShowType(bool multiuse)
 {
     ui->labelType->setText(multiuse ? QStringLiteral("Multiuse") : QStringLiteral("Single-use"));
-}
-
-void MainWindow::plShowClock(const QDateTime& now)
-{
-    timeKeeper.setTime(now);
-    timeKeeper.setRunning(true);
-    plUpdateDateTime();
+    advancedOptionsDialog->lSetMultiuse(multiuse);
 }
 
 // A text that can't be read, or a cancel, ends the texts and fails nothing; the next step looks at the cancel
@@ -146,7 +180,7 @@ int MainWindow::plReadTexts(StepProgress& progress)
     return textsRead;
 }
 
-void MainWindow::plFinishRead(StepProgress& progress, StepResult result)
+bool MainWindow::plFinishRead(StepProgress& progress, StepResult result, bool stepsDone)
 {
     progress.finish();
     if (result == StepResult::Failed)
@@ -161,6 +195,12 @@ void MainWindow::plFinishRead(StepProgress& progress, StepResult result)
     const bool extended = device->lIsExtendedFirmware();
     ui->buttonAdvanced->setVisible(extended);
     ui->checkLock->setVisible(!extended);
-    if (result != StepResult::Done)
+    if (!device->lIsDeviceValid(timeManager->currentTimeUtc())) {
+        plOnInvalidDevice();
+        return false;
+    }
+    plUpdateTimeZoneLabel();
+    if (!stepsDone)
         plLeaveDevice();
+    return result != StepResult::Failed;
 }

@@ -5,6 +5,7 @@
 
 #include "app/stepprogress.h"
 #include "device/brumaloggerinterface.h"
+#include "dialogs/advancedoptionsdialog.h"
 #include "ui_mainwindow.h"
 
 #include <QScopedValueRollback>
@@ -25,6 +26,13 @@ bool MainWindow::plWriteToDevice()
     if (procedureRuns)
         return true;
     const QScopedValueRollback<bool> guard(procedureRuns, true);
+    if (device->lIsExtendedFirmware() && !advancedOptionsDialog->lValidateDates()) {
+        plWarn(tr("Check your START/STOP dates"),
+               tr("<p>Your current settings for the automatic START and/or STOP dates are invalid (probably "
+                  "outdated). Please check the <b>Advanced Options</b> panel before continuing with the "
+                  "<b>Write</b> operation.</p>"));
+        return true;
+    }
     plDisableControls(true);
     ui->statusBar->showMessage(tr("Writing to device..."));
     StepProgress progress(tr("Writing to device"), windowTitleBase, this);
@@ -53,7 +61,9 @@ StepResult MainWindow::plWriteParameters(StepProgress& progress)
         {[&] { return device->lSetStartDelay(ui->spinDelay->value() * secondsPerMinute); }},
         {[&] { return device->lSetButtonLock(ui->checkLock->isChecked()); }},
     };
-    const StepResult result = progress.walk(range, 0);
+    StepResult result = progress.walk(range, 0);
+    if (result == StepResult::Done)
+        result = plSynchroniseTime(progress);
     if (result != StepResult::Done)
         return result;
     progress.setValue(synchronisedValue);
@@ -82,9 +92,13 @@ StepResult MainWindow::plWriteClosing(StepProgress& progress, int firstValue)
         {[&] { return device->lSendCommandK(); }},
     };
     const StepResult result = progress.walk(steps, firstValue);
-    if (result == StepResult::Done && !device->lIsExtendedFirmware())
-        progress.passThrough(firstValue + static_cast<int>(steps.size()), spareValues);
-    return result;
+    if (result != StepResult::Done)
+        return result;
+    const int nextValue = firstValue + static_cast<int>(steps.size());
+    if (device->lIsExtendedFirmware())
+        return plWriteOptions(progress, nextValue);
+    progress.passThrough(nextValue, spareValues);
+    return StepResult::Done;
 }
 
 void MainWindow::plFinishWrite(StepProgress& progress, bool succeeded)

@@ -39,6 +39,8 @@ public:
     bool lConnectAuto();
     /// True from a successful lConnect() until lDisconnect(); a pulled plug is not noticed.
     bool lIsConnected() const { return connected; }
+    /// True while an exchange waits for its reply, in which another one must not begin.
+    bool lIsBusy() const { return busy; }
     /// Name of the port last opened, for messages.
     QString lPortName() const { return port->portName(); }
 
@@ -188,6 +190,7 @@ private:
     QString reply;
     bool connected = false;
     bool replyReady = false;
+    bool busy = false;
     QHash<unsigned int, QString> texts;
     QString deviceName;
     QString firmwareVersion;

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDebug>
+#include <QScopedValueRollback>
 #include <QSocketNotifier>
 #include <QTime>
 
@@ -53,6 +54,7 @@ void BrumaloggerInterface::lWait(int msecs)
 // The wait runs to its end whenever the reply comes, since a reply has no end mark of its own.
 bool BrumaloggerInterface::plExchange(const QString& command, int waitMs)
 {
+    const QScopedValueRollback<bool> guard(busy, true);
     reply.clear();
     replyReady = false;
     if (!plWriteRaw(command.toUtf8()))

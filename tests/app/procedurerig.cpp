@@ -98,7 +98,7 @@ QStringList ProcedureRig::takeStatusLog()
 
 QList<QByteArray> readCommands()
 {
-    return {"i", "e", "i", "m", "g", "Gt", "Gs", "Gd", "Gl", "G0", "G1", "G2", "G4", "G3"};
+    return {"i", "e", "i", "m", "g", "Gt", "Gs", "Gd", "Gl", "G0", "G1", "G2", "G4", "G3", "m"};
 }
 
 QList<QByteArray> connectCommands()

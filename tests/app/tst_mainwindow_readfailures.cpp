@@ -16,7 +16,8 @@ namespace {
 /// Numbers of commands in a read, from 1 on.
 constexpr int firstText = 10;
 constexpr int lastText = 13;
-constexpr int lastCommand = 14;
+constexpr int lastStep = 14;
+constexpr int validityTest = 15;
 
 /// One row each for a connect and for a read on its own, for the commands @p first to @p last of a read.
 void addRows(int first, int last)
@@ -55,6 +56,8 @@ struct ReadingRig : ProcedureRig
     {
         return firstOf(connecting ? connectCommands() : readCommands(), number(command));
     }
+    /// What a read sends that ends at @p command: every ending looks whether the device is valid.
+    QList<QByteArray> commandsOfReadEndingAt(int command) const { return commandsUpTo(command) << "m"; }
     /// What the status bar shows of a read that ends in @p ending and a disconnect.
     QStringList statusesOfLostRead(const QString& ending) const
     {
@@ -106,7 +109,7 @@ void TestMainWindowReadFailures::failsAtSilence_data()
 {
     addColumns();
     addRows(1, firstText - 1);
-    addRows(lastCommand, lastCommand);
+    addRows(lastStep, lastStep);
 }
 
 void TestMainWindowReadFailures::failsAtSilence()
@@ -120,7 +123,7 @@ void TestMainWindowReadFailures::failsAtSilence()
     else
         expectReadFailed(rig.robot);
     rig.run();
-    QCOMPARE(rig.wire(), rig.commandsUpTo(command));
+    QCOMPARE(rig.wire(), rig.commandsOfReadEndingAt(command));
     QCOMPARE(panels(rig), emptyPanels());
     QCOMPARE(rig.takeStatusLog(), rig.statusesOfLostRead(QStringLiteral("Read failed. Please retry.")));
     QCOMPARE(differences(rig, rig.lostState()), QString());
@@ -139,7 +142,8 @@ void TestMainWindowReadFailures::doesWithoutSilentTexts()
     ReadingRig rig(connecting);
     rig.disturb(rig.number(command), Fault::Kind::Silence);
     rig.run();
-    QCOMPARE(rig.wire(), rig.commandsUpTo(command) << "G3");
+    QCOMPARE(rig.wire(), rig.commandsUpTo(command) << "G3"
+                                                   << "m");
     QCOMPARE(panels(rig), panelsWithoutTexts(command));
     QCOMPARE(differences(rig, rig.readState()), QString());
 }
@@ -147,7 +151,7 @@ void TestMainWindowReadFailures::doesWithoutSilentTexts()
 void TestMainWindowReadFailures::stopsAtCancel_data()
 {
     addColumns();
-    addRows(2, lastCommand); // the first command goes out before the dialog is there
+    addRows(2, lastStep); // the first command goes out before the dialog is there
 }
 
 // The command under way is waited out. Among the texts the shipment type still follows.
@@ -160,7 +164,7 @@ void TestMainWindowReadFailures::stopsAtCancel()
     rig.run();
     const bool isText = command >= firstText && command <= lastText;
     QCOMPARE(rig.wire(),
-             rig.commandsUpTo(command) + (isText ? QList<QByteArray>{"G3"} : QList<QByteArray>()));
+             rig.commandsUpTo(command) + (isText ? QList<QByteArray>{"G3", "m"} : QList<QByteArray>{"m"}));
     QCOMPARE(panels(rig), emptyPanels());
     QCOMPARE(rig.takeStatusLog(), rig.statusesOfLostRead(QStringLiteral("Read successful")));
     QCOMPARE(differences(rig, rig.lostState()), QString());
@@ -184,7 +188,7 @@ void TestMainWindowReadFailures::cancelsBy()
             rig.progressDialog()->close();
     });
     rig.run();
-    QCOMPARE(rig.wire(), rig.commandsUpTo(5));
+    QCOMPARE(rig.wire(), rig.commandsOfReadEndingAt(5));
     QCOMPARE(differences(rig, disconnected()), QString());
 }
 
@@ -199,11 +203,11 @@ void TestMainWindowReadFailures::movesBarUpToFailure_data()
     row("the first command fails", 1, false, {17});
     row("the first step fails", 2, false, {17});
     row("Gt fails", 6, false, {0, 1, 2, 3, 17});
-    row("G3 fails", lastCommand, false, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 17});
+    row("G3 fails", lastStep, false, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 17});
     row("cancelled at the first step", 2, true, {17});
     row("cancelled at Gt", 6, true, {0, 1, 2, 3, 17});
     row("cancelled at G1", 11, true, {0, 1, 2, 3, 4, 5, 6, 7, 8, 17});
-    row("cancelled at G3", lastCommand, true, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 17});
+    row("cancelled at G3", lastStep, true, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 17});
 }
 
 void TestMainWindowReadFailures::movesBarUpToFailure()
