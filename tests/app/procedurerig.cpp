@@ -3,9 +3,7 @@
 #include "procedurerig.h"
 
 #include "quickwire.h"
-#include "support/testclock.h"
 
-#include <QDateTime>
 #include <QLineEdit>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -15,7 +13,6 @@
 ProcedureRig::ProcedureRig(const Settings& settings)
     : WindowRig(settings)
 {
-    TestClock::set(QDateTime(QDate(2024, 5, 15), QTime(12, 0)).toMSecsSinceEpoch());
     QObject::connect(find<QStatusBar>("statusBar"), &QStatusBar::messageChanged, &window,
                      [this](const QString& message) { statusLog << message; });
 }

@@ -2,8 +2,8 @@
 
 #include "support/windowrig.h"
 
-/// A WindowRig for the device procedures: its day begins at noon, far from the midnight that cuts a reply
-/// wait short, and its loggers answer without the rest of each reply wait (see QuickWire).
+/// A WindowRig for the device procedures: its loggers answer without the rest of each reply wait (see
+/// QuickWire).
 class ProcedureRig : public WindowRig
 {
 public:
@@ -36,8 +36,10 @@ private:
     QStringList statusLog;
 };
 
-/// "i", "e", "i" and so on: what a read sends to basic firmware, in its order.
+/// "i", "e", "i" and so on: what a read sends to basic firmware, in its order. The last one, the test of the
+/// device's validity, comes with the controls enabled.
 QList<QByteArray> readCommands();
+constexpr int stepsOfRead = 14;
 /// What a connect sends: the proof of identity and then a read.
 QList<QByteArray> connectCommands();
 /// What a write of the values of basicLogger() sends to basic firmware.

@@ -176,7 +176,7 @@ void TestMainWindowChanges::yesClosesTheLink()
 
     rig.window.show();
     rig.press("buttonConnect");
-    QCOMPARE(rig.wire().size(), 15);
+    QCOMPARE(rig.wire(), connectCommands());
     QCOMPARE(rig.robot.problems(), QString());
 }
 

@@ -16,8 +16,6 @@ namespace {
 /// Numbers of commands in a read, from 1 on.
 constexpr int firstText = 10;
 constexpr int lastText = 13;
-constexpr int lastStep = 14;
-constexpr int validityTest = 15;
 
 /// One row each for a connect and for a read on its own, for the commands @p first to @p last of a read.
 void addRows(int first, int last)
@@ -109,7 +107,7 @@ void TestMainWindowReadFailures::failsAtSilence_data()
 {
     addColumns();
     addRows(1, firstText - 1);
-    addRows(lastStep, lastStep);
+    addRows(stepsOfRead, stepsOfRead);
 }
 
 void TestMainWindowReadFailures::failsAtSilence()
@@ -151,7 +149,7 @@ void TestMainWindowReadFailures::doesWithoutSilentTexts()
 void TestMainWindowReadFailures::stopsAtCancel_data()
 {
     addColumns();
-    addRows(2, lastStep); // the first command goes out before the dialog is there
+    addRows(2, stepsOfRead); // the first command goes out before the dialog is there
 }
 
 // The command under way is waited out. Among the texts the shipment type still follows.
@@ -203,11 +201,11 @@ void TestMainWindowReadFailures::movesBarUpToFailure_data()
     row("the first command fails", 1, false, {17});
     row("the first step fails", 2, false, {17});
     row("Gt fails", 6, false, {0, 1, 2, 3, 17});
-    row("G3 fails", lastStep, false, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 17});
+    row("G3 fails", stepsOfRead, false, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 17});
     row("cancelled at the first step", 2, true, {17});
     row("cancelled at Gt", 6, true, {0, 1, 2, 3, 17});
     row("cancelled at G1", 11, true, {0, 1, 2, 3, 4, 5, 6, 7, 8, 17});
-    row("cancelled at G3", lastStep, true, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 17});
+    row("cancelled at G3", stepsOfRead, true, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 17});
 }
 
 void TestMainWindowReadFailures::movesBarUpToFailure()

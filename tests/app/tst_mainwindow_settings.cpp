@@ -189,7 +189,7 @@ void TestMainWindowSettings::acceptedAtAnyCommandOfAProcedure_data()
 {
     QTest::addColumn<QByteArray>("button");
     QTest::addColumn<int>("command");
-    for (int command = 1; command <= readCommands().size(); command++)
+    for (int command = 1; command <= stepsOfRead; command++)
         QTest::addRow("read, %d", command) << QByteArray("buttonRead") << command;
     for (int command = 1; command <= writeCommandsOfBasicLogger().size(); command++)
         QTest::addRow("write, %d", command) << QByteArray("buttonWrite") << command;

@@ -210,7 +210,7 @@ void TestMainWindowShell::usableControlsDuringAProcedure_data()
 {
     QTest::addColumn<QString>("button");
     QTest::addColumn<int>("commands");
-    QTest::newRow("read") << "buttonRead" << 14;
+    QTest::newRow("read") << "buttonRead" << stepsOfRead;
     QTest::newRow("write") << "buttonWrite" << 10;
 }
 
@@ -224,7 +224,7 @@ void TestMainWindowShell::usableControlsDuringAProcedure()
     for (int command = 1; command <= commands; ++command)
         rig.atCommand(command, [&] { wrong << wrongControls(rig, &Usable::withoutDevice); });
     rig.press(qPrintable(button));
-    QCOMPARE(rig.wire().size(), commands);
+    QVERIFY(rig.wire().size() >= commands);
     QCOMPARE(wrong, QStringList());
     QCOMPARE(rig.robot.problems(), QString());
 }
@@ -260,9 +260,9 @@ void TestMainWindowShell::keysOfEnabledButtons()
         rig.pressKeys(key);
         return rig.wire();
     };
-    QCOMPARE(press(Qt::Key_K).size(), 15);
+    QCOMPARE(press(Qt::Key_K), connectCommands());
     QCOMPARE(rig.text("buttonConnect"), QStringLiteral("Disconnect"));
-    QCOMPARE(press(Qt::Key_R).size(), 14);
+    QCOMPARE(press(Qt::Key_R), readCommands());
     QCOMPARE(rig.status(), QStringLiteral("Read successful"));
     QCOMPARE(press(Qt::Key_W).value(0), QByteArray("St-0010000-0001000"));
     QCOMPARE(rig.status(), QStringLiteral("Write successful"));

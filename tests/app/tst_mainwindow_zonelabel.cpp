@@ -14,6 +14,7 @@ namespace {
 LoggerModel loggerAhead(int seconds)
 {
     LoggerModel model = basicLogger();
+    model.settings().multiuse = true; // never refused for its clock
     model.settings().clockOffset = seconds;
     return model;
 }

@@ -47,6 +47,13 @@ void WindowWords::expectReadFailed(DialogRobot& robot)
                        "<b>Settings</b> menu.</p>"));
 }
 
+void WindowWords::expectInvalidDevice(DialogRobot& robot)
+{
+    robot.expectWarning(QStringLiteral("Warning"),
+                        QStringLiteral("This device is in an invalid state.\n"
+                                       "No connection can be established. Aborting."));
+}
+
 void WindowWords::expectConnectFailed(DialogRobot& robot)
 {
     expectReadFailed(robot);

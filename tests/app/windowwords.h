@@ -14,6 +14,8 @@ void expectExit(DialogRobot& robot, QMessageBox::StandardButton answer);
 
 void expectReadQuestion(DialogRobot& robot, QMessageBox::StandardButton answer);
 void expectReadFailed(DialogRobot& robot);
+/// A device whose clock is off, or that has gone silent by the end of a read.
+void expectInvalidDevice(DialogRobot& robot);
 /// What a connect says when its read has failed: the read's own box and that of the connect.
 void expectConnectFailed(DialogRobot& robot);
 

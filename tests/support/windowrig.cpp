@@ -5,6 +5,7 @@
 #include "support/testclock.h"
 
 #include <QAction>
+#include <QDateTime>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -32,10 +33,15 @@ bool isInADialogOf(const QWidget& window, const QObject* object)
     return false;
 }
 
+WindowRig::Noon::Noon()
+{
+    TestClock::ignoreStalls();
+    TestClock::set(QDateTime(QDate(2024, 5, 15), QTime(12, 0)).toMSecsSinceEpoch());
+}
+
 WindowRig::WindowRig(const Settings& settings)
     : folder(settings)
 {
-    TestClock::ignoreStalls();
     window.show();
     if (!QTest::qWaitForWindowExposed(&window))
         qFatal("the window was never exposed");

@@ -67,6 +67,14 @@ public:
     /// The commands on the first logger's wire since plugging or clearExchanges().
     QList<QByteArray> wire() const { return logger->commands(); }
 
+    /// Noon of a day, far from the midnight that cuts a reply wait short; before any clock of the window
+    /// runs.
+    struct Noon
+    {
+        Noon();
+    };
+
+    Noon noon;
     UsbBench bench;
     WorkFolder folder;
     MainWindow window;
