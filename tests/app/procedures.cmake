@@ -1,5 +1,6 @@
 # The procedures, driven through the real window and a simulated logger.
 add_library(brumalogger_proceduretests STATIC
+  extendedrig.cpp extendedrig.h
   procedurerig.cpp procedurerig.h
   progresswatch.cpp progresswatch.h
   quickwire.cpp quickwire.h
@@ -12,6 +13,7 @@ foreach(concern
     read readfailures readreplies
     write writefailures
     start
+    extendedread extendedfailures extendedclosing unlock options
     unplug closing interruptions)
   brumalogger_add_test(tst_mainwindow_${concern} SOURCES tst_mainwindow_${concern}.cpp
     LINK brumalogger_proceduretests MOCK)

@@ -18,6 +18,12 @@ foreach(concern time zonelabel)
     MOCK NETWORK X11
   )
 endforeach()
+foreach(concern validity timesync timeanswers)
+  brumalogger_add_test(tst_mainwindow_${concern} SOURCES timerig.cpp timerig.h tst_mainwindow_${concern}.cpp
+    LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time
+    MOCK NETWORK
+  )
+endforeach()
 brumalogger_add_test(tst_mainwindow_servers SOURCES tst_mainwindow_servers.cpp
   LINK brumalogger_proceduretests
   MOCK TIME_SERVERS

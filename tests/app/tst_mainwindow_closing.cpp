@@ -5,8 +5,6 @@
 #include "windowstate.h"
 #include "windowwords.h"
 
-#include <QApplication>
-#include <QSerialPort>
 #include <QStatusBar>
 #include <QTest>
 
@@ -19,24 +17,6 @@ namespace {
 constexpr int firstModifiedInConnect = 8;
 /// A read on its own begins with emptying the lines, right behind its first command.
 constexpr int firstModifiedInRead = 2;
-
-/// What is left of a window that was closed, in words; empty if nothing is.
-QString remains(const ProcedureRig& rig)
-{
-    QStringList left;
-    QCoreApplication::processEvents();
-    for (const QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget->isVisible())
-            left << QString::fromLatin1(widget->metaObject()->className()) +
-                        QStringLiteral(" is still visible");
-    }
-    QSerialPort otherProgram(QStringLiteral("ttyACM0"));
-    if (!otherProgram.open(QIODevice::ReadWrite))
-        left << QStringLiteral("the port is still taken");
-    left << rig.robot.problems();
-    left.removeAll(QString());
-    return left.join(QLatin1Char('\n'));
-}
 
 } // namespace
 
@@ -70,7 +50,7 @@ void TestMainWindowClosing::duringConnect()
     if (command >= firstModifiedInConnect && command < connectCommands().size())
         expectExit(rig.robot, Yes);
     rig.press("buttonConnect");
-    QCOMPARE(remains(rig), QString());
+    QCOMPARE(closedWindowRemains(rig), QString());
     QCOMPARE(rig.wire(), firstOf(connectCommands(), command));
 }
 
@@ -83,7 +63,7 @@ void TestMainWindowClosing::duringRead()
     if (command >= firstModifiedInRead && command <= stepsOfRead)
         expectExit(rig.robot, Yes);
     rig.press("buttonRead");
-    QCOMPARE(remains(rig), QString());
+    QCOMPARE(closedWindowRemains(rig), QString());
     QCOMPARE(rig.wire(), firstOf(readCommands(), command));
 }
 
@@ -111,7 +91,7 @@ void TestMainWindowClosing::duringWrite()
     }
     rig.atCommand(command, [&rig] { rig.window.close(); });
     rig.press("buttonWrite");
-    QCOMPARE(remains(rig), QString());
+    QCOMPARE(closedWindowRemains(rig), QString());
     QCOMPARE(rig.wire(), firstOf(writeCommandsOfBasicLogger(), command));
 }
 
@@ -140,7 +120,7 @@ void TestMainWindowClosing::duringStart()
         expectExit(rig.robot, Yes);
     rig.atCommand(command, [&rig] { rig.window.close(); });
     rig.press("buttonStart");
-    QCOMPARE(remains(rig), QString());
+    QCOMPARE(closedWindowRemains(rig), QString());
     QCOMPARE(rig.wire(), firstOf({"Go", "a"}, command));
 }
 
@@ -151,7 +131,7 @@ void TestMainWindowClosing::beforeHandshake()
     rig.plug();
     atNextChance(&rig.window, [&rig] { rig.window.close(); });
     rig.press("buttonConnect");
-    QCOMPARE(remains(rig), QString());
+    QCOMPARE(closedWindowRemains(rig), QString());
     QCOMPARE(rig.wire(), QList<QByteArray>());
 }
 
@@ -181,7 +161,7 @@ void TestMainWindowClosing::beforeFirstIdentification()
         closeSoon();
         rig.press("buttonRead");
     }
-    QCOMPARE(remains(rig), QString());
+    QCOMPARE(closedWindowRemains(rig), QString());
     QCOMPARE(rig.wire(), connecting ? QList<QByteArray>({"i"}) : QList<QByteArray>());
 }
 

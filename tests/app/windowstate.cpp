@@ -6,12 +6,14 @@
 #include "windowwords.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QImage>
 #include <QKeySequence>
 #include <QPushButton>
+#include <QSerialPort>
 
 namespace {
 
@@ -186,6 +188,23 @@ QString differences(WindowRig& rig, const WindowState& expected)
     compareLink(comparison, rig, expected);
     comparison.note(rig.robot.problems());
     return comparison.result();
+}
+
+QString closedWindowRemains(const WindowRig& rig)
+{
+    QStringList left;
+    QCoreApplication::processEvents();
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible())
+            left << QString::fromLatin1(widget->metaObject()->className()) +
+                        QStringLiteral(" is still visible");
+    }
+    QSerialPort otherProgram(QStringLiteral("ttyACM0"));
+    if (!otherProgram.open(QIODevice::ReadWrite))
+        left << QStringLiteral("the port is still taken");
+    left << rig.robot.problems();
+    left.removeAll(QString());
+    return left.join(QLatin1Char('\n'));
 }
 
 QStringList panels(const WindowRig& rig)

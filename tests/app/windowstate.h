@@ -38,6 +38,9 @@ WindowState idle(const QString& status, bool modified);
 /// finds no device without one. So this is the last look at a window, and the loggers are gone after it.
 QString differences(WindowRig& rig, const WindowState& expected);
 
+/// What is left of a window that was closed, in words; empty if nothing is.
+QString closedWindowRemains(const WindowRig& rig);
+
 /// Writes down each command that the logger receives from now on while any control is enabled.
 void noteEnabledControls(WindowRig& rig, QStringList* commands);
 

@@ -54,15 +54,32 @@ void WindowWords::expectInvalidDevice(DialogRobot& robot)
                                        "No connection can be established. Aborting."));
 }
 
-void WindowWords::expectConnectFailed(DialogRobot& robot)
+void WindowWords::expectReadIncorrect(DialogRobot& robot)
 {
-    expectReadFailed(robot);
     robot.expectWarning(
         QStringLiteral("Notice"),
         QStringLiteral("<p>Connected to device, but failed to read it correctly.<br>"
                        "Please retry the Read operation.<br>"
                        "If the issue persists, select <b>Disable fast Read/Write</b> under the "
                        "<b>Settings</b> menu.</p>"));
+}
+
+void WindowWords::expectConnectFailed(DialogRobot& robot)
+{
+    expectReadFailed(robot);
+    expectReadIncorrect(robot);
+}
+
+void WindowWords::expectWrongPassword(DialogRobot& robot)
+{
+    robot.expectWarning(QStringLiteral("Unlock device"), QStringLiteral("Incorrect password."));
+}
+
+void WindowWords::expectNoAnswerToPassword(DialogRobot& robot)
+{
+    robot.expectWarning(QStringLiteral("Unlock device"),
+                        QStringLiteral("Failed while trying to unlock device."));
+    expectWrongPassword(robot);
 }
 
 void WindowWords::expectWriteFailed(DialogRobot& robot)
@@ -82,6 +99,16 @@ void WindowWords::expectWriteCanceled(DialogRobot& robot)
                         QStringLiteral("Write procedure canceled by user.\n"
                                        "Parameters on device may be in an undefined state.\n"
                                        "Executing the procedure again is recommended."));
+}
+
+void WindowWords::expectInvalidDates(DialogRobot& robot)
+{
+    robot.expectWarning(
+        QStringLiteral("Check your START/STOP dates"),
+        QStringLiteral(
+            "<p>Your current settings for the automatic START and/or STOP dates are invalid "
+            "(probably outdated). Please check the <b>Advanced Options</b> panel before continuing "
+            "with the <b>Write</b> operation.</p>"));
 }
 
 void WindowWords::expectStartModified(DialogRobot& robot, QMessageBox::StandardButton answer)

@@ -16,11 +16,19 @@ void expectReadQuestion(DialogRobot& robot, QMessageBox::StandardButton answer);
 void expectReadFailed(DialogRobot& robot);
 /// A device whose clock is off, or that has gone silent by the end of a read.
 void expectInvalidDevice(DialogRobot& robot);
-/// What a connect says when its read has failed: the read's own box and that of the connect.
+/// What a connect says when its read has failed.
+void expectReadIncorrect(DialogRobot& robot);
+/// The same behind the read's own box.
 void expectConnectFailed(DialogRobot& robot);
+
+void expectWrongPassword(DialogRobot& robot);
+/// Two boxes.
+void expectNoAnswerToPassword(DialogRobot& robot);
 
 void expectWriteFailed(DialogRobot& robot);
 void expectWriteCanceled(DialogRobot& robot);
+
+void expectInvalidDates(DialogRobot& robot);
 
 void expectStartModified(DialogRobot& robot, QMessageBox::StandardButton answer);
 void expectStartConfirm(DialogRobot& robot, QMessageBox::StandardButton answer);

@@ -1,0 +1,99 @@
+// The window is closed in the middle of a procedure with extended firmware, at every single exchange.
+
+#include "dialogs/advancedoptionsdialog.h"
+#include "dialogs/passworddialog.h"
+#include "extendedrig.h"
+#include "support/nextchance.h"
+#include "windowstate.h"
+#include "windowwords.h"
+
+#include <QTest>
+
+using namespace WindowWords;
+
+namespace {
+
+const int firstTry = 8; // number of the "?" in a connect with a locked logger
+
+} // namespace
+
+class TestMainWindowExtendedClosing : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void duringConnect_data() { addCommandRows(lockedConnectCommands()); }
+    void duringConnect();
+    void duringRead_data() { addCommandRows(extendedReadCommands()); }
+    void duringRead();
+    void duringWrite_data() { addCommandRows(extendedWriteCommands()); }
+    void duringWrite();
+    void overTheUnlockDialog();
+    void overTheOptions();
+};
+
+// Nothing follows the command under way, and the lock is as it was unless the password was just being tried.
+void TestMainWindowExtendedClosing::duringConnect()
+{
+    QFETCH(const int, command);
+    ProcedureRig rig;
+    rig.plug(lockedLogger());
+    const UnlockHand hand(rig, {rightPassword});
+    rig.atCommand(command, [&rig] { rig.window.close(); });
+    const int modifiedFrom = lockedConnectCommands().indexOf("Gt") + 2;
+    if (command >= modifiedFrom && command < lockedConnectCommands().size())
+        expectExit(rig.robot, Yes);
+    rig.press("buttonConnect");
+    QCOMPARE(closedWindowRemains(rig), QString());
+    QCOMPARE(rig.wire(), firstOf(lockedConnectCommands(), command));
+    QCOMPARE(rig.logger->model().settings().locked, command < firstTry);
+}
+
+void TestMainWindowExtendedClosing::duringRead()
+{
+    QFETCH(const int, command);
+    ProcedureRig rig;
+    rig.plugAndConnect(secureLogger());
+    rig.atCommand(command, [&rig] { rig.window.close(); });
+    if (command >= 3 && command < extendedReadCommands().size())
+        expectExit(rig.robot, Yes);
+    rig.press("buttonRead");
+    QCOMPARE(closedWindowRemains(rig), QString());
+    QCOMPARE(rig.wire(), firstOf(extendedReadCommands(), command));
+}
+
+void TestMainWindowExtendedClosing::duringWrite()
+{
+    QFETCH(const int, command);
+    ProcedureRig rig;
+    rig.plugAndConnect(secureLogger());
+    rig.atCommand(command, [&rig] { rig.window.close(); });
+    rig.press("buttonWrite");
+    QCOMPARE(closedWindowRemains(rig), QString());
+    QCOMPARE(rig.wire(), firstOf(extendedWriteCommands(), command));
+}
+
+void TestMainWindowExtendedClosing::overTheUnlockDialog()
+{
+    ProcedureRig rig;
+    rig.plug(lockedLogger());
+    const UnlockHand hand(rig, {});
+    connect(&hand, &UnlockHand::sShown, &rig.window, [&rig] { rig.window.close(); });
+    rig.press("buttonConnect");
+    QCOMPARE(hand.showings(), 1);
+    QCOMPARE(closedWindowRemains(rig), QString());
+    QCOMPARE(rig.wire(), firstOf(lockedConnectCommands(), firstTry - 1));
+}
+
+void TestMainWindowExtendedClosing::overTheOptions()
+{
+    ProcedureRig rig;
+    rig.plugAndConnect(secureLogger());
+    atNextChance(&rig.window, [&rig] { rig.window.close(); });
+    rig.press("buttonAdvanced");
+    QCOMPARE(closedWindowRemains(rig), QString());
+    QCOMPARE(rig.wire(), QList<QByteArray>());
+}
+
+QTEST_MAIN(TestMainWindowExtendedClosing)
+#include "tst_mainwindow_extendedclosing.moc"
