@@ -21,7 +21,7 @@ public:
     SimulatedPort* logger;
 };
 
-// What the log tells of a connection, as LogRecorder keeps it.
+// What the log tells of a connection, as LogLines keeps it.
 
 QString connectingLine(const QString& portName);
 QString connectedLine(const QString& portName);

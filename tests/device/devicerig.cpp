@@ -1,4 +1,4 @@
-// What the tests of the link share: a connected logger, a stopwatch, the log.
+// What the tests of the link share: a connected logger, a stopwatch.
 
 #include "devicerig.h"
 
@@ -6,46 +6,6 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-
-#include <ctime>
-
-namespace {
-
-struct Recording
-{
-    QtMessageHandler next = nullptr;
-    QStringList lines;
-};
-
-Recording& recording()
-{
-    static Recording theRecording;
-    return theRecording;
-}
-
-QString levelName(QtMsgType type)
-{
-    switch (type) {
-    case QtDebugMsg:
-        return QStringLiteral("debug: ");
-    case QtInfoMsg:
-        return QStringLiteral("info: ");
-    case QtWarningMsg:
-        return QStringLiteral("warning: ");
-    default:
-        return QStringLiteral("critical: ");
-    }
-}
-
-// A fatal message must still end the test.
-void record(QtMsgType type, const QMessageLogContext& context, const QString& text)
-{
-    if (type == QtFatalMsg)
-        recording().next(type, context, text);
-    recording().lines << levelName(type) + text;
-}
-
-} // namespace
 
 DeviceRig::DeviceRig(const LoggerModel& model)
     : logger(bench.plug(model, {}, ownPortName()))
@@ -99,44 +59,6 @@ qint64 Stopwatch::elapsed() const
 bool isWait(qint64 elapsed, qint64 wait)
 {
     return elapsed >= wait && elapsed <= wait + waitMargin;
-}
-
-LogRecorder::LogRecorder()
-{
-    recording().lines.clear();
-    recording().next = qInstallMessageHandler(record);
-}
-
-LogRecorder::~LogRecorder()
-{
-    qInstallMessageHandler(recording().next);
-}
-
-QStringList LogRecorder::lines() const
-{
-    return recording().lines;
-}
-
-void LogRecorder::clear()
-{
-    recording().lines.clear();
-}
-
-LocalZone::LocalZone(const QByteArray& zone)
-    : before(qgetenv("TZ"))
-    , hadOne(qEnvironmentVariableIsSet("TZ"))
-{
-    qputenv("TZ", zone);
-    tzset();
-}
-
-LocalZone::~LocalZone()
-{
-    if (hadOne)
-        qputenv("TZ", before);
-    else
-        qunsetenv("TZ");
-    tzset();
 }
 
 LoggerModel distinctLogger()

@@ -4,7 +4,6 @@
 #include "simulator/usbbench.h"
 
 #include <QMetaType>
-#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -60,33 +59,6 @@ constexpr qint64 waitMargin = 15;
 
 /// True if @p elapsed is the time of a wait of @p wait milliseconds.
 bool isWait(qint64 elapsed, qint64 wait);
-
-/// Keeps the log while it lives, a line each: "debug: " or "warning: " and the message. One at a time.
-class LogRecorder
-{
-public:
-    LogRecorder();
-    ~LogRecorder();
-    LogRecorder(const LogRecorder&) = delete;
-    LogRecorder& operator=(const LogRecorder&) = delete;
-
-    QStringList lines() const;
-    void clear();
-};
-
-/// Makes @p zone, as "EET-2" for two hours east of UTC, the computer's own while it lives.
-class LocalZone
-{
-public:
-    explicit LocalZone(const QByteArray& zone);
-    ~LocalZone();
-    LocalZone(const LocalZone&) = delete;
-    LocalZone& operator=(const LocalZone&) = delete;
-
-private:
-    QByteArray before;
-    bool hadOne;
-};
 
 /// A logger with firmware 1.2.0 and a value of its own in every place.
 LoggerModel distinctLogger();

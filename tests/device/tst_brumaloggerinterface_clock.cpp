@@ -2,6 +2,8 @@
 
 #include "devicerig.h"
 
+#include "support/localzone.h"
+#include "support/loglines.h"
 #include "support/testclock.h"
 
 #include <QTest>
@@ -105,9 +107,9 @@ void TestBrumaloggerInterfaceClock::dateTimeStaysOnFailure()
 void TestBrumaloggerInterfaceClock::dateTimeTellsTheLog()
 {
     rig->reply("1700000000");
-    const LogRecorder log;
+    const LogLines log;
     QVERIFY(rig->link.lGetDateTime(nullptr));
-    QCOMPARE(log.lines(), QStringList({QStringLiteral("debug: TIMESTAMP =  1700000000")}));
+    QCOMPARE(log.all(), QStringList({QStringLiteral("debug: TIMESTAMP =  1700000000")}));
 }
 
 void TestBrumaloggerInterfaceClock::clockBeginsWithTheComputers()
@@ -151,21 +153,21 @@ void TestBrumaloggerInterfaceClock::settingTakesTheInstant()
 void TestBrumaloggerInterfaceClock::settingFromTexts()
 {
     const LocalZone zone("EET-2");
-    const LogRecorder log;
+    const LogLines log;
     QVERIFY(rig->link.lSetDateTime(QStringLiteral("4/3/2021"), QStringLiteral("5:6:7")));
     QVERIFY(rig->link.lSetDateTime(QStringLiteral("24/12/2021"), QStringLiteral("15:16:17")));
     QCOMPARE(rig->wire(), QList<QByteArray>({"u1614827167", "u1640351777"}));
-    QCOMPARE(log.lines(), QStringList({QStringLiteral("debug: Setting time to 1614827167"),
-                                       QStringLiteral("debug: Setting time to 1640351777")}));
+    QCOMPARE(log.all(), QStringList({QStringLiteral("debug: Setting time to 1614827167"),
+                                     QStringLiteral("debug: Setting time to 1640351777")}));
 }
 
 // The log gets the whole number, of which the wire has room for 32 bits.
 void TestBrumaloggerInterfaceClock::settingTellsTheLog()
 {
     rig->reply("ok");
-    const LogRecorder log;
+    const LogLines log;
     QVERIFY(rig->link.lSetDateTime(utc(2208988800)));
-    QCOMPARE(log.lines(), QStringList({QStringLiteral("debug: Setting time to 2208988800")}));
+    QCOMPARE(log.all(), QStringList({QStringLiteral("debug: Setting time to 2208988800")}));
     QCOMPARE(rig->wire(), QList<QByteArray>({"u-2085978496"}));
 }
 

@@ -3,6 +3,8 @@
 #include "connectiondesk.h"
 #include "devicerig.h"
 
+#include "support/localzone.h"
+#include "support/loglines.h"
 #include "support/testclock.h"
 
 #include <QDir>
@@ -86,14 +88,14 @@ void TestBrumaloggerInterfaceConnection::newLinkIsClosed()
 void TestBrumaloggerInterfaceConnection::connecting()
 {
     ConnectionDesk desk;
-    const LogRecorder log;
+    const LogLines log;
     QVERIFY(desk.link.lConnectAuto());
     QVERIFY(desk.link.lIsConnected());
     QVERIFY(desk.port()->isOpen());
     QCOMPARE(desk.link.lPortName(), ownPortName());
     QCOMPARE(desk.logger->commands(), QList<QByteArray>({"i"}));
-    QCOMPARE(log.lines(), QStringList({disconnectedLine({}), connectingLine(ownPortName()),
-                                       connectedLine(ownPortName())}));
+    QCOMPARE(log.all(), QStringList({disconnectedLine({}), connectingLine(ownPortName()),
+                                     connectedLine(ownPortName())}));
 }
 
 void TestBrumaloggerInterfaceConnection::lineSettings()
@@ -123,14 +125,14 @@ void TestBrumaloggerInterfaceConnection::unusablePort()
     QFETCH(Node, node);
     ConnectionDesk desk;
     QVERIFY(spoilNode(nodePath(ownPortName()), node));
-    const LogRecorder log;
+    const LogLines log;
     const Stopwatch stopwatch;
     QVERIFY(!desk.link.lConnectAuto());
     QVERIFY(isWait(stopwatch.elapsed(), fastWait));
     QVERIFY(!desk.link.lIsConnected());
     QVERIFY(!desk.port()->isOpen());
     QCOMPARE(desk.logger->commands(), QList<QByteArray>());
-    QCOMPARE(log.lines(),
+    QCOMPARE(log.all(),
              QStringList({disconnectedLine({}), connectingLine(ownPortName()), unableLine(ownPortName())}));
 }
 
@@ -141,11 +143,11 @@ void TestBrumaloggerInterfaceConnection::portInUse()
     QVERIFY(other.open(QIODevice::ReadWrite));
     TestClock::reset(); // the lock's file has the computer's time and would be remarked on as one from the
                         // future
-    const LogRecorder log;
+    const LogLines log;
     QVERIFY(!desk.link.lConnect(ownPortName()));
     QVERIFY(!desk.link.lIsConnected());
     QVERIFY(!desk.port()->isOpen());
-    QCOMPARE(log.lines(), QStringList({connectingLine(ownPortName()), unableLine(ownPortName())}));
+    QCOMPARE(log.all(), QStringList({connectingLine(ownPortName()), unableLine(ownPortName())}));
 
     other.close();
     TestClock::ignoreStalls();
@@ -179,7 +181,7 @@ void TestBrumaloggerInterfaceConnection::openPortIsTakenAsItIs()
     const SimulatedPort* other = desk.bench.plug({}, {}, ownPortName(1));
     QVERIFY(desk.link.lConnect(ownPortName()));
     desk.logger->clearExchanges();
-    const LogRecorder log;
+    const LogLines log;
     const Stopwatch stopwatch;
     QVERIFY(desk.link.lConnect(ownPortName(1)));
     QVERIFY(desk.link.lConnect(QStringLiteral("no such port")));
@@ -187,7 +189,7 @@ void TestBrumaloggerInterfaceConnection::openPortIsTakenAsItIs()
     QVERIFY(desk.link.lIsConnected());
     QCOMPARE(desk.link.lPortName(), ownPortName());
     QCOMPARE(desk.logger->commands() + other->commands(), QList<QByteArray>());
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(log.all(), QStringList());
 }
 
 void TestBrumaloggerInterfaceConnection::disconnecting()
@@ -195,22 +197,22 @@ void TestBrumaloggerInterfaceConnection::disconnecting()
     ConnectionDesk desk;
     QVERIFY(desk.link.lConnect(ownPortName()));
     QVERIFY(desk.link.lGetSamplingTime(nullptr));
-    const LogRecorder log;
+    const LogLines log;
     desk.link.lDisconnect();
     QVERIFY(!desk.link.lIsConnected());
     QVERIFY(!desk.port()->isOpen());
-    QCOMPARE(log.lines(), QStringList({disconnectedLine(ownPortName())}));
+    QCOMPARE(log.all(), QStringList({disconnectedLine(ownPortName())}));
     QCOMPARE(desk.link.lSamplingTime(), 660); // what was read stays
 }
 
 void TestBrumaloggerInterfaceConnection::disconnectingAClosedLink()
 {
     BrumaloggerInterface link;
-    const LogRecorder log;
+    const LogLines log;
     link.lDisconnect();
     link.lDisconnect();
     QVERIFY(!link.lIsConnected());
-    QCOMPARE(log.lines(), QStringList({disconnectedLine({}), disconnectedLine({})}));
+    QCOMPARE(log.all(), QStringList({disconnectedLine({}), disconnectedLine({})}));
 }
 
 void TestBrumaloggerInterfaceConnection::reconnecting()
@@ -233,13 +235,13 @@ void TestBrumaloggerInterfaceConnection::replugging()
     QVERIFY(!desk.link.lConnectAuto());
 
     desk.logger = desk.bench.plug(distinctLogger(), {}, ownPortName());
-    const LogRecorder log;
+    const LogLines log;
     QVERIFY(desk.link.lConnectAuto());
     QVERIFY(desk.link.lIsConnected());
     QVERIFY(desk.link.lSendCommandK());
     QCOMPARE(desk.logger->commands(), QList<QByteArray>({"i", "k"}));
-    QCOMPARE(log.lines(), QStringList({disconnectedLine(ownPortName()), connectingLine(ownPortName()),
-                                       connectedLine(ownPortName())}));
+    QCOMPARE(log.all(), QStringList({disconnectedLine(ownPortName()), connectingLine(ownPortName()),
+                                     connectedLine(ownPortName())}));
 }
 
 void TestBrumaloggerInterfaceConnection::deviceClockForTheLog()
@@ -248,9 +250,9 @@ void TestBrumaloggerInterfaceConnection::deviceClockForTheLog()
     DeviceRig rig;
     rig.reply("1704164645");
     QVERIFY(rig.link.lGetDateTime(nullptr));
-    const LogRecorder log;
+    const LogLines log;
     QVERIFY(QMetaObject::invokeMethod(&rig.link, "plOnTimeUpdate"));
-    QCOMPARE(log.lines(), QStringList({QStringLiteral("debug: \"02/01/2024 03:04:05\"")}));
+    QCOMPARE(log.all(), QStringList({QStringLiteral("debug: \"02/01/2024 03:04:05\"")}));
 }
 
 QTEST_MAIN(TestBrumaloggerInterfaceConnection)

@@ -2,6 +2,7 @@
 
 #include "devicerig.h"
 
+#include "support/loglines.h"
 #include "support/testclock.h"
 
 #include <QSerialPortInfo>
@@ -122,12 +123,12 @@ void TestBrumaloggerInterfaceDiscovery::noPorts()
     const UsbBench bench;
     QCOMPARE(portNames(), QStringList());
     BrumaloggerInterface link;
-    const LogRecorder log;
+    const LogLines log;
     const Stopwatch stopwatch;
     QVERIFY(!link.lConnectAuto());
     QVERIFY(isWait(stopwatch.elapsed(), 0));
     QVERIFY(!link.lIsConnected());
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(log.all(), QStringList());
 }
 
 // The port of a logger that was pulled out is not closed while there is nothing to search.
@@ -135,9 +136,9 @@ void TestBrumaloggerInterfaceDiscovery::noPortsLeavesAnOpenLink()
 {
     DeviceRig rig;
     rig.bench.unplug(rig.logger);
-    const LogRecorder log;
+    const LogLines log;
     QVERIFY(!rig.link.lConnectAuto());
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(log.all(), QStringList());
     QVERIFY(rig.port()->isOpen());
     QVERIFY(rig.link.lIsConnected());
 }
@@ -148,11 +149,11 @@ void TestBrumaloggerInterfaceDiscovery::noFittingPort()
     bench.plug({}, foreigner(), ownPortName(0));
     bench.plug({}, foreigner(), ownPortName(1));
     BrumaloggerInterface link;
-    const LogRecorder log;
+    const LogLines log;
     const Stopwatch stopwatch;
     QVERIFY(!link.lConnectAuto());
     QVERIFY(isWait(stopwatch.elapsed(), 0));
-    QCOMPARE(log.lines(), disconnectLine({}));
+    QCOMPARE(log.all(), disconnectLine({}));
     QVERIFY(!link.findChild<QSerialPort*>()->isOpen());
 }
 
@@ -161,9 +162,9 @@ void TestBrumaloggerInterfaceDiscovery::noFittingPortDisconnects()
     DeviceRig rig;
     rig.bench.unplug(rig.logger);
     rig.bench.plug({}, foreigner(), ownPortName(1));
-    const LogRecorder log;
+    const LogLines log;
     QVERIFY(!rig.link.lConnectAuto());
-    QCOMPARE(log.lines(), disconnectLine(ownPortName(0)));
+    QCOMPARE(log.all(), disconnectLine(ownPortName(0)));
     QVERIFY(!rig.link.lIsConnected());
     QVERIFY(!rig.port()->isOpen());
 }

@@ -3,6 +3,7 @@
 #include "devicerig.h"
 #include "exchangeaccess.h"
 
+#include "support/loglines.h"
 #include "support/testclock.h"
 
 #include <QSignalSpy>
@@ -78,14 +79,14 @@ void TestBrumaloggerInterfaceFailures::silenceLeavesNoMark()
     DeviceRig rig(distinctLogger());
     QVERIFY(rig.link.lGetSamplingTime(nullptr));
     rig.silence();
-    const LogRecorder log;
+    const LogLines log;
     int seconds = -1;
     QVERIFY(!rig.link.lGetSamplingTime(&seconds));
     QCOMPARE(seconds, -1);
     QCOMPARE(rig.link.lSamplingTime(), 660);
     QVERIFY(rig.link.lIsConnected());
     QVERIFY(rig.port()->isOpen());
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(log.all(), QStringList());
 }
 
 void TestBrumaloggerInterfaceFailures::lateReplySpoilsTheNext()
@@ -163,37 +164,37 @@ void TestBrumaloggerInterfaceFailures::unplugDuringAnExchange()
 {
     DeviceRig rig;
     rig.disturb(once(Fault::Kind::Unplug));
-    const LogRecorder log;
+    const LogLines log;
     const Stopwatch stopwatch;
     QVERIFY(!rig.link.lSendCommandK());
     QVERIFY(isWait(stopwatch.elapsed(), 75));
     QVERIFY(!rig.link.lSendCommandK());
     QVERIFY(rig.link.lIsConnected());
-    QCOMPARE(otherThanReadErrors(log.lines()), QStringList());
+    QCOMPARE(otherThanReadErrors(log.all()), QStringList());
 }
 
 void TestBrumaloggerInterfaceFailures::unplugBehindAReply()
 {
     DeviceRig rig;
     rig.disturb(once(Fault::Kind::UnplugAfterReply));
-    const LogRecorder log;
+    const LogLines log;
     QVERIFY(rig.link.lSendCommandK());
     QVERIFY(!rig.link.lSendCommandK());
     QVERIFY(rig.link.lIsConnected());
-    QCOMPARE(otherThanReadErrors(log.lines()), QStringList());
+    QCOMPARE(otherThanReadErrors(log.all()), QStringList());
 }
 
 void TestBrumaloggerInterfaceFailures::unpluggedLinkStaysConnected()
 {
     DeviceRig rig;
-    const LogRecorder log;
+    const LogLines log;
     rig.bench.unplug(rig.logger);
     rig.link.lWait(75);
     QVERIFY(rig.link.lIsConnected());
     QVERIFY(!rig.link.lGetSerial(nullptr));
     QVERIFY(!rig.link.lStartLogger());
     QVERIFY(rig.link.lIsConnected());
-    QCOMPARE(otherThanReadErrors(log.lines()), QStringList());
+    QCOMPARE(otherThanReadErrors(log.all()), QStringList());
 }
 
 // Such a line is ready at every turn of the event loop, many thousand times in a wait, and fails each time.
@@ -201,14 +202,14 @@ void TestBrumaloggerInterfaceFailures::hungUpLineIsNotAskedAgainAndAgain()
 {
     DeviceRig rig;
     QSignalSpy errors(rig.port(), &QSerialPort::errorOccurred);
-    const LogRecorder log;
+    const LogLines log;
     rig.bench.unplug(rig.logger);
     for (int round = 0; round < 3; ++round)
         QVERIFY(!rig.link.lSendCommandK());
     QVERIFY(errors.count() > 0);
     QVERIFY(errors.count() < 20);
-    QVERIFY(log.lines().size() <= 1);
-    QCOMPARE(otherThanReadErrors(log.lines()), QStringList());
+    QVERIFY(log.all().size() <= 1);
+    QCOMPARE(otherThanReadErrors(log.all()), QStringList());
 }
 
 void TestBrumaloggerInterfaceFailures::readErrorIsLoggedOnly()
@@ -217,9 +218,9 @@ void TestBrumaloggerInterfaceFailures::readErrorIsLoggedOnly()
     QSerialPort* port = rig.port();
     const QString message =
         QStringLiteral("\"I/O error when reading %1: %2\"").arg(port->portName(), port->errorString());
-    const LogRecorder log;
+    const LogLines log;
     emit port->error(QSerialPort::ReadError);
-    QCOMPARE(log.lines(), QStringList({QStringLiteral("warning: ") + message}));
+    QCOMPARE(log.all(), QStringList({QStringLiteral("warning: ") + message}));
     QVERIFY(port->isOpen());
     QVERIFY(rig.link.lIsConnected());
     QVERIFY(rig.link.lSendCommandK());
@@ -256,10 +257,10 @@ void TestBrumaloggerInterfaceFailures::otherErrorsAreIgnored()
     const BrumaloggerInterface link;
     auto* port = link.findChild<QSerialPort*>();
     QSignalSpy errors(port, QOverload<QSerialPort::SerialPortError>::of(&QSerialPort::error));
-    const LogRecorder log;
+    const LogLines log;
     emit port->error(error);
     QCOMPARE(errors.count(), 1);
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(log.all(), QStringList());
 }
 
 QTEST_MAIN(TestBrumaloggerInterfaceFailures)

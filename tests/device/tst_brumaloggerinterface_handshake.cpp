@@ -3,6 +3,7 @@
 #include "connectiondesk.h"
 #include "devicerig.h"
 
+#include "support/loglines.h"
 #include "support/testclock.h"
 
 #include <QTest>
@@ -104,11 +105,11 @@ void TestBrumaloggerInterfaceHandshake::failedHandshakeLeavesThePortOpen()
     QFETCH(QByteArray, reply);
     ConnectionDesk desk;
     desk.reply(reply);
-    const LogRecorder log;
+    const LogLines log;
     QVERIFY(!desk.link.lConnect(ownPortName()));
     QVERIFY(!desk.link.lIsConnected());
     QVERIFY(desk.port()->isOpen());
-    QCOMPARE(log.lines(), QStringList({connectingLine(ownPortName()), unprovedLine()}));
+    QCOMPARE(log.all(), QStringList({connectingLine(ownPortName()), unprovedLine()}));
 
     desk.logger->clearExchanges();
     QVERIFY(desk.link.lConnect(ownPortName())); // for the port is open
@@ -122,11 +123,11 @@ void TestBrumaloggerInterfaceHandshake::searchGetsPastAFailedHandshake()
     desk.reply({});
     QVERIFY(!desk.link.lConnectAuto());
     desk.logger->faults().clear();
-    const LogRecorder log;
+    const LogLines log;
     QVERIFY(desk.link.lConnectAuto());
     QVERIFY(desk.link.lIsConnected());
-    QCOMPARE(log.lines(), QStringList({disconnectedLine(ownPortName()), connectingLine(ownPortName()),
-                                       connectedLine(ownPortName())}));
+    QCOMPARE(log.all(), QStringList({disconnectedLine(ownPortName()), connectingLine(ownPortName()),
+                                     connectedLine(ownPortName())}));
 }
 
 // As when the window is closed while it connects.

@@ -2,6 +2,7 @@
 
 #include "devicerig.h"
 
+#include "support/loglines.h"
 #include "support/testclock.h"
 
 #include <QTest>
@@ -88,19 +89,19 @@ void TestBrumaloggerInterfacePolicies::readWord()
     QFETCH(QByteArray, reply);
     QFETCH(int, word);
     rig->reply(reply);
-    const LogRecorder log;
+    const LogLines log;
     int read = 1234;
     QVERIFY(rig->link.lGetPolicies(&read));
     QCOMPARE(read, word);
-    QCOMPARE(log.lines(), QStringList({QStringLiteral("debug: Brumalogger current policies: %1").arg(word)}));
+    QCOMPARE(log.all(), QStringList({QStringLiteral("debug: Brumalogger current policies: %1").arg(word)}));
 }
 
 void TestBrumaloggerInterfacePolicies::readWordWithoutPointer()
 {
     rig->reply("8195");
-    const LogRecorder log;
+    const LogLines log;
     QVERIFY(rig->link.lGetPolicies(nullptr));
-    QCOMPARE(log.lines(), QStringList({QStringLiteral("debug: Brumalogger current policies: 8195")}));
+    QCOMPARE(log.all(), QStringList({QStringLiteral("debug: Brumalogger current policies: 8195")}));
 }
 
 void TestBrumaloggerInterfacePolicies::readWordFails_data()
@@ -117,11 +118,11 @@ void TestBrumaloggerInterfacePolicies::readWordFails()
 {
     QFETCH(QByteArray, reply);
     rig->reply(reply);
-    const LogRecorder log;
+    const LogLines log;
     int read = 1234;
     QVERIFY(!rig->link.lGetPolicies(&read));
     QCOMPARE(read, 1234);
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(log.all(), QStringList());
 }
 
 void TestBrumaloggerInterfacePolicies::writtenWord_data()
@@ -142,10 +143,10 @@ void TestBrumaloggerInterfacePolicies::writtenWord()
     QFETCH(QByteArray, bytes);
     QFETCH(int, logged);
     rig->reply("ok");
-    const LogRecorder log;
+    const LogLines log;
     QVERIFY(rig->link.lSetPolicies(static_cast<quint16>(word)));
     QCOMPARE(rig->wire(), QList<QByteArray>({bytes}));
-    QCOMPARE(log.lines(), QStringList({QStringLiteral("debug: Writing policies: %1").arg(logged)}));
+    QCOMPARE(log.all(), QStringList({QStringLiteral("debug: Writing policies: %1").arg(logged)}));
 }
 
 void TestBrumaloggerInterfacePolicies::readDate_data()
@@ -177,7 +178,7 @@ void TestBrumaloggerInterfacePolicies::readDate()
     QFETCH(QString, logged);
     const int seconds = reply.trimmed().toInt();
     rig->reply(reply);
-    const LogRecorder log;
+    const LogLines log;
     bool enabled = false;
     QDateTime date = before;
     QVERIFY((rig->link.*ask)(&enabled, &date));
@@ -185,7 +186,7 @@ void TestBrumaloggerInterfacePolicies::readDate()
     QCOMPARE(date, utc(seconds));
     QCOMPARE(date.offsetFromUtc(), 0);
     QCOMPARE(date.time(), utc(seconds).time());
-    QCOMPARE(log.lines(),
+    QCOMPARE(log.all(),
              QStringList({QStringLiteral("debug: Got STA/STO timestamp: %1").arg(seconds),
                           QStringLiteral("debug: Setting QDateTime: %1  ( %2 )").arg(logged).arg(seconds)}));
 }
@@ -205,7 +206,7 @@ void TestBrumaloggerInterfacePolicies::disabledDateStays()
     QFETCH(Question, ask);
     QFETCH(QByteArray, reply);
     rig->reply(reply);
-    const LogRecorder log;
+    const LogLines log;
     const QDateTime before = utc(1600000000).toOffsetFromUtc(7200);
     bool enabled = true;
     QDateTime date = before;
@@ -213,7 +214,7 @@ void TestBrumaloggerInterfacePolicies::disabledDateStays()
     QVERIFY(!enabled);
     QCOMPARE(date, before);
     QCOMPARE(date.offsetFromUtc(), 7200);
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(log.all(), QStringList());
 }
 
 void TestBrumaloggerInterfacePolicies::readDateFails_data()
@@ -267,11 +268,11 @@ void TestBrumaloggerInterfacePolicies::writtenDate()
     QFETCH(QDateTime, date);
     QFETCH(QByteArray, bytes);
     rig->reply("ok");
-    const LogRecorder log;
+    const LogLines log;
     QVERIFY((rig->link.*set)(enabled, date));
     QCOMPARE(rig->wire(), QList<QByteArray>({bytes}));
     const qint64 seconds = enabled ? date.toSecsSinceEpoch() : 0;
-    QCOMPARE(log.lines(), QStringList({QStringLiteral("debug: Setting STA/STO timestamp: %1").arg(seconds)}));
+    QCOMPARE(log.all(), QStringList({QStringLiteral("debug: Setting STA/STO timestamp: %1").arg(seconds)}));
 }
 
 QTEST_MAIN(TestBrumaloggerInterfacePolicies)

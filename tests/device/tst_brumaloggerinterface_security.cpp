@@ -2,6 +2,7 @@
 
 #include "devicerig.h"
 
+#include "support/loglines.h"
 #include "support/testclock.h"
 
 #include <QTest>
@@ -160,12 +161,12 @@ void TestBrumaloggerInterfaceSecurity::passwordLock()
     QFETCH(QByteArray, reply);
     QFETCH(bool, locked);
     rig->reply(reply);
-    const LogRecorder log;
+    const LogLines log;
     bool told = !locked;
     QVERIFY(rig->link.lGetLocked(&told));
     QCOMPARE(told, locked);
-    QCOMPARE(log.lines(), QStringList({locked ? QStringLiteral("debug: Device is locked.")
-                                              : QStringLiteral("debug: Device is unlocked.")}));
+    QCOMPARE(log.all(), QStringList({locked ? QStringLiteral("debug: Device is locked.")
+                                            : QStringLiteral("debug: Device is unlocked.")}));
 }
 
 void TestBrumaloggerInterfaceSecurity::passwordLockFails_data()
@@ -181,14 +182,14 @@ void TestBrumaloggerInterfaceSecurity::passwordLockFails()
 {
     QFETCH(QByteArray, reply);
     rig->reply(reply);
-    const LogRecorder log;
+    const LogLines log;
     bool first = true;
     bool second = false;
     QVERIFY(!rig->link.lGetLocked(&first));
     QVERIFY(!rig->link.lGetLocked(&second));
     QVERIFY(first);
     QVERIFY(!second);
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(log.all(), QStringList());
 }
 
 void TestBrumaloggerInterfaceSecurity::triedPassword_data()
@@ -252,12 +253,12 @@ void TestBrumaloggerInterfaceSecurity::passwordLength()
     QFETCH(QByteArray, sent);
     QFETCH(bool, truncated);
     rig->reply("ok");
-    const LogRecorder log;
+    const LogLines log;
     bool accepted = false;
     QVERIFY(rig->link.lTryPassword(password, &accepted));
     QVERIFY(rig->link.lSetPassword(password));
     QCOMPARE(rig->wire(), QList<QByteArray>({"?" + sent, "!" + sent}));
-    QCOMPARE(log.lines(), truncated ? QStringList({truncating, truncating}) : QStringList());
+    QCOMPARE(log.all(), truncated ? QStringList({truncating, truncating}) : QStringList());
 }
 
 void TestBrumaloggerInterfaceSecurity::state_data()

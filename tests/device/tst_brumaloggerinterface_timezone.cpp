@@ -2,6 +2,7 @@
 
 #include "devicerig.h"
 
+#include "support/loglines.h"
 #include "support/testclock.h"
 
 #include <QTest>
@@ -91,9 +92,9 @@ void TestBrumaloggerInterfaceTimeZone::timeZoneTellsTheLog()
     QFETCH(QByteArray, reply);
     QFETCH(QStringList, lines);
     rig->reply(reply);
-    const LogRecorder log;
+    const LogLines log;
     rig->link.lGetTimeZoneOffset(nullptr);
-    QCOMPARE(log.lines(), lines);
+    QCOMPARE(log.all(), lines);
 }
 
 void TestBrumaloggerInterfaceTimeZone::timeZoneStaysOnFailure_data()
@@ -117,9 +118,9 @@ void TestBrumaloggerInterfaceTimeZone::timeZoneStaysOnFailure()
 
 void TestBrumaloggerInterfaceTimeZone::writingTheTimeZoneTellsTheLog()
 {
-    const LogRecorder log;
+    const LogLines log;
     QVERIFY(rig->link.lSetTimeZoneOffset(-10800));
-    QCOMPARE(log.lines(), QStringList({QStringLiteral("debug: Writing timezone offset: \"Sz-0010800\"")}));
+    QCOMPARE(log.all(), QStringList({QStringLiteral("debug: Writing timezone offset: \"Sz-0010800\"")}));
 }
 
 QTEST_MAIN(TestBrumaloggerInterfaceTimeZone)

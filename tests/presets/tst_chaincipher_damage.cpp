@@ -2,8 +2,8 @@
 
 #include "presets/chaincipher.h"
 
-#include "loglines.h"
 #include "referencecipher.h"
+#include "support/loglines.h"
 
 #include <QTest>
 

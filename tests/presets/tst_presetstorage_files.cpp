@@ -2,9 +2,9 @@
 
 #include "presets/presetstorage.h"
 
-#include "loglines.h"
 #include "presetfiles.h"
 #include "referencecipher.h"
+#include "support/loglines.h"
 #include "zlibbomb.h"
 
 #include <QDir>

@@ -2,8 +2,8 @@
 
 #include "presets/presetstorage.h"
 
-#include "loglines.h"
 #include "presetfiles.h"
+#include "support/loglines.h"
 #include "support/testclock.h"
 
 #include <QDateTime>

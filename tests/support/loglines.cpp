@@ -1,8 +1,6 @@
 // The log as the program sends it to the toolkit.
 
-#include "loglines.h"
-
-#include <QHash>
+#include "support/loglines.h"
 
 namespace {
 
@@ -23,15 +21,20 @@ QString levelName(QtMsgType level)
     switch (level) {
     case QtDebugMsg:
         return QStringLiteral("debug");
+    case QtInfoMsg:
+        return QStringLiteral("info");
     case QtWarningMsg:
         return QStringLiteral("warning");
     default:
-        return QStringLiteral("other");
+        return QStringLiteral("critical");
     }
 }
 
+// A fatal message must still end the test.
 void record(QtMsgType level, const QMessageLogContext& context, const QString& text)
 {
+    if (level == QtFatalMsg)
+        recording().next(level, context, text);
     QString line = levelName(level) + QStringLiteral(": ") + text;
     if (qstrcmp(context.category, "default") != 0 || context.line != 0 || context.file || context.function)
         line.prepend(QStringLiteral("with a context, "));
