@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialogs/advancedoptionsdialog.h"
+#include "support/child.h"
 #include "support/dialogrobot.h"
 
 #include <QAbstractButton>
@@ -22,10 +23,7 @@ public:
     template<typename Widget>
     Widget* find(const char* name) const
     {
-        auto* widget = dialog.findChild<Widget*>(QLatin1String(name));
-        if (!widget)
-            qFatal("no widget named %s", name);
-        return widget;
+        return child<Widget>(dialog, name);
     }
     QAbstractButton* button(const char* name) const { return find<QAbstractButton>(name); }
     bool isChecked(const char* name) const { return button(name)->isChecked(); }

@@ -4,6 +4,7 @@
 #include "device/brumaloggerinterface.h"
 #include "dialogs/passworddialog.h"
 #include "simulator/usbbench.h"
+#include "support/child.h"
 #include "support/dialogrobot.h"
 
 #include <QList>
@@ -27,10 +28,7 @@ public:
     template<typename Widget>
     Widget* find(const char* name) const
     {
-        auto* widget = dialog.findChild<Widget*>(QLatin1String(name));
-        if (!widget)
-            qFatal("no widget named %s", name);
-        return widget;
+        return child<Widget>(dialog, name);
     }
     QString text(const char* lineOrLabelOrButtonName) const;
     /// The three texts and the state, as the labels show them.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialogs/settingsdialog.h"
+#include "support/child.h"
 #include "support/dialogrobot.h"
 #include "support/workfolder.h"
 
@@ -17,10 +18,7 @@ public:
     template<typename Widget>
     Widget* find(const char* name) const
     {
-        auto* widget = dialog.findChild<Widget*>(QLatin1String(name));
-        if (!widget)
-            qFatal("no widget named %s", name);
-        return widget;
+        return child<Widget>(dialog, name);
     }
     bool isChecked(const char* box) const;
     bool isEnabled(const char* widget) const;

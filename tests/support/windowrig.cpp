@@ -6,7 +6,6 @@
 
 #include <QAction>
 #include <QDateTime>
-#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressDialog>
@@ -23,15 +22,6 @@ constexpr const char* idleWidgets[] = {"lineSender", "lineRecipient", "lineInfo"
 constexpr const char* idleActions[] = {"actionSave", "actionLoad"};
 
 } // namespace
-
-bool isInADialogOf(const QWidget& window, const QObject* object)
-{
-    for (; object && object != &window; object = object->parent()) {
-        if (qobject_cast<const QDialog*>(object))
-            return true;
-    }
-    return false;
-}
 
 WindowRig::Noon::Noon()
 {

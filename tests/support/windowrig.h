@@ -2,6 +2,7 @@
 
 #include "app/mainwindow.h"
 #include "simulator/usbbench.h"
+#include "support/child.h"
 #include "support/dialogrobot.h"
 #include "support/workfolder.h"
 
@@ -11,21 +12,6 @@
 #include <functional>
 
 class QProgressDialog;
-
-/// True if @p object is part of a dialog that belongs to @p window.
-bool isInADialogOf(const QWidget& window, const QObject* object);
-
-/// The object of that name in @p window, its dialogs apart; without one the test program ends.
-template<typename Object>
-Object* child(const QWidget& window, const char* name)
-{
-    for (auto* found : window.findChildren<Object*>(QLatin1String(name))) {
-        if (!isInADialogOf(window, found))
-            return found;
-    }
-    qFatal("nothing named %s", name);
-    return nullptr;
-}
 
 /// A main window, a bench with simulated loggers, and a robot that answers the window's boxes. Widgets go by
 /// their object names, as an operator would find them by their place.
