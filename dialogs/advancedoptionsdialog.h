@@ -27,10 +27,10 @@ public:
 
     /// Flags of DevicePolicy; bits without a control are kept as they came.
     int lPolicies() const { return policies; }
-    void lSetPolicies(const int& word) { policies = word; }
+    void lSetPolicies(const int& policies) { this->policies = policies; }
     /// Empty if unknown; the device never tells it.
     QString lPassword() const { return password; }
-    void lSetPassword(const QString& text) { password = text; }
+    void lSetPassword(const QString& password) { this->password = password; }
     /// True when the device's button can't change its settings.
     bool lButtonLock() const { return buttonLock; }
     void lSetButtonLock(bool lock) { buttonLock = lock; }
@@ -43,7 +43,7 @@ public:
     /// As BrumaloggerInterface::lFirmwareCode() gives it.
     void lSetFirmwareCode(int code) { firmwareCode = code; }
     /// Only a Multiuse device can be reset.
-    void lSetMultiuse(bool isMultiuse) { multiuse = isMultiuse; }
+    void lSetMultiuse(bool multiuse) { this->multiuse = multiuse; }
 
     /// The device starts by itself.
     bool lStartEnabled() const { return startEnabled; }
