@@ -6,6 +6,7 @@
 #include "ui_advancedoptionsdialog.h"
 
 #include <QDebug>
+#include <QLayout>
 #include <QMessageBox>
 #include <QVector>
 
@@ -116,6 +117,8 @@ void AdvancedOptionsDialog::lStopDate(bool* enabled, QDateTime* date) const
     handOut(stopEnabled, stopDate, enabled, date);
 }
 
+// The base class puts the dialog into the middle of its parent: at first for the warning of a password that
+// is too long, which goes by the dialog's place, and once more when the dialog has its new size.
 void AdvancedOptionsDialog::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
@@ -129,6 +132,16 @@ void AdvancedOptionsDialog::showEvent(QShowEvent* event)
     plShowPolicies();
     plCheckIfPasswFieldEnabled();
     plUpdateDateTimeDisplays();
+    plFitSize();
+    QDialog::showEvent(event);
+}
+
+// The dialog's layout goes by what those of the groups say, so they come first.
+void AdvancedOptionsDialog::plFitSize()
+{
+    for (const QGroupBox* group : {ui->groupBox, ui->groupBox_2, ui->groupMultiuse})
+        group->layout()->activate();
+    layout()->activate();
 }
 
 // A password that is too long for the field is cut here, with a warning; the store keeps the whole.

@@ -81,6 +81,7 @@ private slots:
 private:
     // Construction and showing
     void plConnectSignals();
+    void plFitSize();
     void plShowPassword();
     void plNameResetByFirmware();
     void plShowPolicies();

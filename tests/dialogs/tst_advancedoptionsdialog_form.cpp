@@ -47,6 +47,8 @@ private slots:
     void newerWordingStays();
     void tabsFollowTheForm();
     void choicesExcludeEachOther();
+    void comesInItsFinalSize();
+    void warningStandsBeforeTheDialog();
     void nothingIsCut_data();
     void nothingIsCut();
 };
@@ -220,6 +222,36 @@ void TestAdvancedOptionsDialogForm::choicesExcludeEachOther()
     }
     desk.check("radioResetDone");
     QVERIFY(!desk.isChecked("radioResetAlways") && desk.isChecked("radioPasswNone"));
+}
+
+// It gets onto the screen, and into the middle of its window, with the size of what it shows. The letters are
+// small, so that there is room for it around the middle.
+void TestAdvancedOptionsDialogForm::comesInItsFinalSize()
+{
+    AdvancedDesk desk;
+    desk.window.setStyleSheet(QStringLiteral("font-size: 6pt"));
+    desk.window.setGeometry(0, 0, 780, 580);
+    desk.dialog.lSetTimeZoneName(QString(40, QLatin1Char('W')));
+    desk.dialog.lSetStartDate(true, QDateTime::currentDateTime());
+    desk.dialog.open();
+    const QRect first = desk.dialog.geometry();
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.dialog));
+    QCoreApplication::processEvents();
+    QCOMPARE(desk.dialog.geometry(), first);
+    QVERIFY((first.center() - desk.window.geometry().center()).manhattanLength() <= 2);
+}
+
+// The warning is centred on a dialog that isn't on the screen yet, but will be there.
+void TestAdvancedOptionsDialogForm::warningStandsBeforeTheDialog()
+{
+    AdvancedDesk desk;
+    desk.dialog.lSetPassword(QString(31, QLatin1Char('p')));
+    QPoint middle;
+    QObject::connect(&desk.robot, &DialogRobot::sBoxOpened, &desk.window,
+                     [&middle] { middle = QApplication::activeModalWidget()->geometry().center(); });
+    desk.open();
+    QCOMPARE(desk.robot.boxes().size(), 1);
+    QVERIFY(qAbs(middle.x() - desk.dialog.geometry().center().x()) <= 1);
 }
 
 void TestAdvancedOptionsDialogForm::nothingIsCut_data()
