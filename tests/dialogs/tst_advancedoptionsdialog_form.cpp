@@ -1,6 +1,7 @@
 // The dialog of advanced options: its form and its words.
 
 #include "advanceddesk.h"
+#include "places.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -45,6 +46,8 @@ private slots:
     void firmwareWordsTheReset_data();
     void firmwareWordsTheReset();
     void newerWordingStays();
+    void fromTopToBottom();
+    void rows();
     void tabsFollowTheForm();
     void choicesExcludeEachOther();
     void comesInItsFinalSize();
@@ -188,6 +191,30 @@ void TestAdvancedOptionsDialogForm::newerWordingStays()
     QCOMPARE(desk.button("radioResetDone")->text(),
              QStringLiteral("Allow device RESET only after reports are generated"));
     QCOMPARE(desk.button("radioResetDone")->toolTip(), QString(resetAfterReports));
+}
+
+void TestAdvancedOptionsDialogForm::fromTopToBottom()
+{
+    AdvancedDesk desk;
+    desk.open();
+    desk.find<QLabel>("labelChangesEffect")->show();
+    QCoreApplication::processEvents();
+    QCOMPARE(
+        firstNotBelow(desk.dialog,
+                      "label_2 groupBox checkLockButton checkConfigPassw line radioPasswNone radioPasswOnce "
+                      "radioPasswAlways line_2 linePassw groupBox_2 checkStartButton checkStartSoftware "
+                      "checkStopButton checkStopUSBAttach line_3 checkStartDate checkStopDate groupMultiuse "
+                      "radioResetAlways radioResetDone labelChangesEffect buttonBox"),
+        QString());
+}
+
+void TestAdvancedOptionsDialogForm::rows()
+{
+    AdvancedDesk desk;
+    desk.open();
+    for (const char* row :
+         {"label linePassw buttonShow", "checkStartDate toolStartDate", "checkStopDate toolStopDate"})
+        QCOMPARE(firstNotBeside(desk.dialog, row), QString());
 }
 
 void TestAdvancedOptionsDialogForm::tabsFollowTheForm()
