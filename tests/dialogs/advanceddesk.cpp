@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <utility>
@@ -77,6 +78,11 @@ void holdClock(const QDateTime& moment)
 {
     TestClock::ignoreStalls();
     TestClock::set(moment.toMSecsSinceEpoch());
+}
+
+QStringList programLines(const LogLines& log)
+{
+    return log.all().filter(QRegularExpression(QStringLiteral("^debug: ")));
 }
 
 QStringList cutWidgets(const QWidget& window)

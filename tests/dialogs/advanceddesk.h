@@ -3,6 +3,7 @@
 #include "dialogs/advancedoptionsdialog.h"
 #include "support/child.h"
 #include "support/dialogrobot.h"
+#include "support/loglines.h"
 
 #include <QAbstractButton>
 #include <QDateTime>
@@ -67,6 +68,9 @@ private:
 
 /// Sets the computer's clock to @p moment, from where it runs slowly: a few milliseconds within a test.
 void holdClock(const QDateTime& moment);
+
+/// What the program logged; the platform without a screen has something to say, too.
+QStringList programLines(const LogLines& log);
 
 /// The visible widgets in @p window that have less room than they need.
 QStringList cutWidgets(const QWidget& window);

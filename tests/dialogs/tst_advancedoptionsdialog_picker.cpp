@@ -176,11 +176,13 @@ void TestAdvancedOptionsDialogPicker::okStoresTheDate()
     QFETCH(bool, isStart);
     const PickerDesk desk;
     const QDateTime chosen(QDate(2032, 2, 29), QTime(23, 59), Qt::UTC);
+    const LogLines log;
     QVERIFY(desk.pick(QTest::currentDataTag(), [&chosen](QDialog* picker) {
         editorOf(picker)->setDate(chosen.date());
         editorOf(picker)->setTime(chosen.time());
         buttonOf(picker, "Ok")->click();
     }));
+    QCOMPARE(programLines(log), QStringList("debug: Selected timestamp:  1961711940"));
     QCOMPARE(desk.startDate(), isStart ? chosen : stored);
     QCOMPARE(desk.stopDate(), isStart ? stored.addDays(1) : chosen);
     QVERIFY(desk.button(check)->text().endsWith(chosen.toString(QStringLiteral(": hh:mm dd/MMM/yyyy")) +
@@ -189,24 +191,36 @@ void TestAdvancedOptionsDialogPicker::okStoresTheDate()
 
 void TestAdvancedOptionsDialogPicker::cancelLeavesTheDate_data()
 {
+    QTest::addColumn<QByteArray>("tool");
+    QTest::addColumn<QByteArray>("check");
     QTest::addColumn<bool>("byFrame");
-    QTest::newRow("Cancel") << false;
-    QTest::newRow("window's frame") << true;
+    for (const bool byFrame : {false, true}) {
+        const char* how = byFrame ? "window's frame" : "Cancel";
+        QTest::addRow("start, %s", how)
+            << QByteArray("toolStartDate") << QByteArray("checkStartDate") << byFrame;
+        QTest::addRow("stop, %s", how)
+            << QByteArray("toolStopDate") << QByteArray("checkStopDate") << byFrame;
+    }
 }
 
 // The text is spoiled first: it is made anew all the same.
 void TestAdvancedOptionsDialogPicker::cancelLeavesTheDate()
 {
+    QFETCH(QByteArray, tool);
+    QFETCH(QByteArray, check);
     QFETCH(bool, byFrame);
     const PickerDesk desk;
-    const QString text = desk.button("checkStartDate")->text();
-    desk.button("checkStartDate")->setText(QStringLiteral("spoiled"));
-    QVERIFY(desk.pick("toolStartDate", [byFrame](QDialog* picker) {
+    const QString text = desk.button(check)->text();
+    desk.button(check)->setText(QStringLiteral("spoiled"));
+    const LogLines log;
+    QVERIFY(desk.pick(tool, [byFrame](QDialog* picker) {
         buttonOf(picker, "Now")->click();
         byFrame ? static_cast<void>(picker->close()) : buttonOf(picker, "Cancel")->click();
     }));
+    QCOMPARE(programLines(log), QStringList());
     QCOMPARE(desk.startDate(), stored);
-    QCOMPARE(desk.button("checkStartDate")->text(), text);
+    QCOMPARE(desk.stopDate(), stored.addDays(1));
+    QCOMPARE(desk.button(check)->text(), text);
 }
 
 void TestAdvancedOptionsDialogPicker::cancelledDialogKeepsThePickedDate()

@@ -18,6 +18,8 @@ QString dateText(const QDateTime& date, const char* zone)
     return date.toString(QStringLiteral("hh:mm dd/MMM/yyyy")) + QStringLiteral(" (%1)").arg(zone);
 }
 
+const QString oldWord = QStringLiteral("debug: Current policies: 259");
+
 /// Opens the dialog on an old password without a lock, and changes a bit each way, the lock and the password.
 void editEverything(AdvancedDesk& desk)
 {
@@ -48,6 +50,7 @@ private slots:
     void cancelKeepsTheValues();
     void acceptTakesTheValues();
     void cancelKeepsTheDateFlags();
+    void showingIsLoggedFirst();
     void showingRefreshesTheControls();
     void showingFollowsMultiuse();
     void noticeAboutTheEffect();
@@ -156,7 +159,9 @@ void TestAdvancedOptionsDialogStore::cancelKeepsTheValues()
 {
     AdvancedDesk desk;
     editEverything(desk);
+    const LogLines log;
     desk.dialog.reject();
+    QCOMPARE(programLines(log), QStringList(oldWord));
     QCOMPARE(desk.dialog.lPolicies(), 259);
     QCOMPARE(desk.dialog.lPassword(), QStringLiteral("old"));
     QVERIFY(!desk.dialog.lButtonLock());
@@ -167,8 +172,10 @@ void TestAdvancedOptionsDialogStore::acceptTakesTheValues()
     AdvancedDesk desk;
     editEverything(desk);
     QCOMPARE(desk.dialog.lPolicies(), 259);
+    const LogLines log;
     QVERIFY(desk.accept());
-    QCOMPARE(desk.dialog.lPolicies(), 256 + 2 + 4);
+    QCOMPARE(programLines(log), QStringList("debug: Current policies: 262"));
+    QCOMPARE(desk.dialog.lPolicies(), 262);
     QCOMPARE(desk.dialog.lPassword(), QStringLiteral("new"));
     QVERIFY(desk.dialog.lButtonLock());
     QCOMPARE(desk.robot.problems(), QString());
@@ -184,6 +191,20 @@ void TestAdvancedOptionsDialogStore::cancelKeepsTheDateFlags()
     desk.dialog.reject();
     QVERIFY(desk.dialog.lStartEnabled());
     QVERIFY(!desk.dialog.lStopEnabled());
+}
+
+// Before the warning of a password that is too long.
+void TestAdvancedOptionsDialogStore::showingIsLoggedFirst()
+{
+    AdvancedDesk desk;
+    desk.dialog.lSetPassword(QString(31, QLatin1Char('p')));
+    const LogLines log;
+    QStringList beforeTheBox;
+    QObject::connect(&desk.robot, &DialogRobot::sBoxOpened, &desk.window,
+                     [&] { beforeTheBox = programLines(log); });
+    desk.open();
+    QCOMPARE(beforeTheBox, QStringList(oldWord));
+    QCOMPARE(programLines(log), QStringList(oldWord));
 }
 
 void TestAdvancedOptionsDialogStore::showingRefreshesTheControls()
