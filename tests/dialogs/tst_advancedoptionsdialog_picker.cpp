@@ -1,39 +1,13 @@
 // The dialog of advanced options: the picker of an automatic date and time.
 
-#include "advanceddesk.h"
+#include "pickerdesk.h"
 
-#include "support/testclock.h"
-
-#include <QCalendarWidget>
-#include <QDateTimeEdit>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
 
 namespace {
-
-const QDateTime stored(QDate(2031, 5, 7), QTime(12, 34, 56), Qt::UTC);
-
-QPushButton* buttonOf(const QDialog* picker, const char* text)
-{
-    for (auto* button : picker->findChildren<QPushButton*>()) {
-        if (button->text() == QLatin1String(text))
-            return button;
-    }
-    qFatal("no button says %s", text);
-    return nullptr;
-}
-
-QDateTimeEdit* editorOf(const QDialog* picker)
-{
-    return picker->findChild<QDateTimeEdit*>();
-}
-
-QCalendarWidget* calendarOf(const QDialog* picker)
-{
-    return picker->findChild<QCalendarWidget*>();
-}
 
 /// Where the widget stands in the picker: row, column, rows, columns.
 QVector<int> placeOf(const QDialog* picker, QWidget* widget)
@@ -47,27 +21,6 @@ QVector<int> placeOf(const QDialog* picker, QWidget* widget)
     return {row, column, rows, columns};
 }
 
-/// A desk whose stored dates are on, two hours east.
-class PickerDesk : public AdvancedDesk
-{
-public:
-    PickerDesk()
-    {
-        dialog.lSetTimeZoneName(QStringLiteral("GMT+2:00"));
-        dialog.lSetTimeZoneOffset(7200);
-        dialog.lSetStartDate(true, stored);
-        dialog.lSetStopDate(true, stored.addDays(1));
-        open();
-    }
-    /// Opens the picker by its button and does @p action there; false if none came, or more than one.
-    bool pick(const char* tool, const std::function<void(QDialog*)>& action) const
-    {
-        const DialogHand hand(action);
-        button(tool)->click();
-        return hand.dialogsSeen() == 1;
-    }
-};
-
 } // namespace
 
 class TestAdvancedOptionsDialogPicker : public QObject
@@ -75,7 +28,6 @@ class TestAdvancedOptionsDialogPicker : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup();
     void titles_data();
     void titles();
     void form();
@@ -88,18 +40,11 @@ private slots:
     void cancelledDialogKeepsThePickedDate();
     void dayLeavesTheTimeAlone();
     void typedDateMovesTheCalendar();
-    void nowIsTheDevicesTime();
-    void hourSkippedOnTheComputer();
     void pastCanBeChosen();
     void enterMeansOk();
     void nothingIsCut_data();
     void nothingIsCut();
 };
-
-void TestAdvancedOptionsDialogPicker::cleanup()
-{
-    TestClock::reset();
-}
 
 void TestAdvancedOptionsDialogPicker::titles_data()
 {
@@ -256,40 +201,6 @@ void TestAdvancedOptionsDialogPicker::typedDateMovesTheCalendar()
         QCOMPARE(calendarOf(picker)->selectedDate(), QDate(2031, 5, 19));
         QCOMPARE(editorOf(picker)->time(), stored.time());
     }));
-}
-
-void TestAdvancedOptionsDialogPicker::nowIsTheDevicesTime()
-{
-    const PickerDesk desk;
-    const QDateTime now(QDate(2030, 12, 31), QTime(22, 30, 15), Qt::UTC);
-    QVERIFY(desk.pick("toolStopDate", [&now](QDialog* picker) {
-        holdClock(now);
-        buttonOf(picker, "Now")->click();
-        QCOMPARE(calendarOf(picker)->selectedDate(), QDate(2031, 1, 1));
-        buttonOf(picker, "Ok")->click();
-    }));
-    QCOMPARE(desk.stopDate(), now.addSecs(7200));
-}
-
-void TestAdvancedOptionsDialogPicker::hourSkippedOnTheComputer()
-{
-    const QByteArray zone = qgetenv("TZ");
-    const bool zoneSet = qEnvironmentVariableIsSet("TZ");
-    qputenv("TZ", "Europe/Berlin");
-    tzset();
-    const QDateTime skipped(QDate(2026, 3, 29), QTime(2, 30), Qt::UTC);
-    PickerDesk desk;
-    desk.dialog.lSetStartDate(true, skipped);
-    QTime shown;
-    const bool picked = desk.pick("toolStartDate", [&shown](QDialog* picker) {
-        shown = editorOf(picker)->time();
-        buttonOf(picker, "Ok")->click();
-    });
-    zoneSet ? qputenv("TZ", zone) : qunsetenv("TZ");
-    tzset();
-    QVERIFY(picked);
-    QCOMPARE(shown, skipped.time());
-    QCOMPARE(desk.startDate(), skipped);
 }
 
 void TestAdvancedOptionsDialogPicker::pastCanBeChosen()

@@ -2,6 +2,7 @@
 
 #include "advanceddesk.h"
 
+#include "support/localzone.h"
 #include "support/testclock.h"
 
 #include <QDialogButtonBox>
@@ -41,6 +42,7 @@ class TestAdvancedOptionsDialogStore : public QObject
 private slots:
     void cleanup();
     void beginning();
+    void beginsWithThePresentDates();
     void accessors();
     void keepsTheFiguresOfADate_data();
     void keepsTheFiguresOfADate();
@@ -71,6 +73,19 @@ void TestAdvancedOptionsDialogStore::beginning()
     QCOMPARE(desk.dialog.lTimeZoneName(), QStringLiteral("GMT"));
     QCOMPARE(desk.dialog.lTimeZoneOffset(), 0);
     QVERIFY(!desk.dialog.lStartEnabled() && !desk.dialog.lStopEnabled());
+}
+
+void TestAdvancedOptionsDialogStore::beginsWithThePresentDates()
+{
+    const LocalZone zone("EET-2");
+    holdClock(noon);
+    AdvancedDesk desk;
+    TestClock::shift(3600000);
+    desk.open();
+    desk.button("checkStartDate")->click();
+    desk.button("checkStopDate")->click();
+    QCOMPARE(desk.startDate(), noon);
+    QCOMPARE(desk.stopDate(), noon);
 }
 
 void TestAdvancedOptionsDialogStore::accessors()
@@ -118,15 +133,20 @@ void TestAdvancedOptionsDialogStore::keepsTheFiguresOfADate()
 
 void TestAdvancedOptionsDialogStore::proposesDates_data()
 {
+    QTest::addColumn<QByteArray>("zone");
     QTest::addColumn<int>("offset");
-    QTest::newRow("at Greenwich") << 0;
-    QTest::newRow("east") << 19800;
-    QTest::newRow("west") << -39600;
+    for (const char* zone : {"UTC0", "EET-2", "EST5"}) {
+        QTest::addRow("at Greenwich, computer in %s", zone) << QByteArray(zone) << 0;
+        QTest::addRow("east, computer in %s", zone) << QByteArray(zone) << 19800;
+        QTest::addRow("west, computer in %s", zone) << QByteArray(zone) << -39600;
+    }
 }
 
 void TestAdvancedOptionsDialogStore::proposesDates()
 {
+    QFETCH(QByteArray, zone);
     QFETCH(int, offset);
+    const LocalZone computersZone(zone);
     AdvancedDesk desk;
     desk.dialog.lSetTimeZoneOffset(offset);
     holdClock(noon);
@@ -136,8 +156,14 @@ void TestAdvancedOptionsDialogStore::proposesDates()
     desk.open();
     desk.button("checkStartDate")->click();
     desk.button("checkStopDate")->click();
-    QCOMPARE(desk.startDate(), noon.addSecs(offset + 6 * 60 * 60));
-    QCOMPARE(desk.stopDate(), noon.addSecs(offset + 24 * 60 * 60));
+    const QDateTime start = noon.addSecs(offset + 6 * 60 * 60);
+    const QDateTime stop = noon.addSecs(offset + 24 * 60 * 60);
+    QCOMPARE(desk.startDate(), start);
+    QCOMPARE(desk.stopDate(), stop);
+    QCOMPARE(desk.button("checkStartDate")->text(),
+             QStringLiteral("START automatically on: ") + dateText(start, "GMT"));
+    QCOMPARE(desk.button("checkStopDate")->text(),
+             QStringLiteral("STOP automatically on: ") + dateText(stop, "GMT"));
 }
 
 void TestAdvancedOptionsDialogStore::datesThatAreOffAreNotHandedOut()
