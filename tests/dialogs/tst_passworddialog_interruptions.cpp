@@ -68,6 +68,9 @@ private slots:
     void acceptingWhileShowing();
     void acceptingWhileTrying_data();
     void acceptingWhileTrying();
+    void disconnectingWhileShowing_data() { addCommands(); }
+    void disconnectingWhileShowing();
+    void disconnectingWhileTrying();
     void typingWhileTrying();
     void togglingWhileTrying();
     void comingBackWhileTrying();
@@ -190,6 +193,40 @@ void TestPasswordDialogInterruptions::acceptingWhileTrying()
     QCOMPARE(desk.dialog.lUnlocked(), isRight);
     QCOMPARE(desk.dialog.isVisible(), !isRight);
     QCOMPARE(desk.robot.problems(), QString());
+}
+
+// The link may be closed while an exchange waits: there is no answer then, and nothing more is sent.
+void TestPasswordDialogInterruptions::disconnectingWhileShowing()
+{
+    QFETCH(QByteArray, command);
+    PasswordDesk desk;
+    desk.atCommand(command, [&] { desk.link->lDisconnect(); });
+    desk.open();
+    QVERIFY(desk.dialog.isVisible());
+    QCOMPARE(desk.labels(), untouchedLabels());
+    const QList<QByteArray> sent = showingCommands().mid(0, showingCommands().indexOf(command) + 1);
+    QCOMPARE(desk.takeWire(), sent);
+
+    desk.expectNoAnswer();
+    desk.tryPassword(rightPassword());
+    QVERIFY(!desk.dialog.isVisible());
+    QVERIFY(!desk.dialog.lUnlocked());
+    QCOMPARE(desk.takeWire(), QList<QByteArray>());
+    QCOMPARE(desk.robot.problems(), QString());
+}
+
+void TestPasswordDialogInterruptions::disconnectingWhileTrying()
+{
+    PasswordDesk desk;
+    desk.atCommand("?", [&] { desk.link->lDisconnect(); });
+    desk.expectNoAnswer();
+    QCOMPARE(desk.run([&] { desk.tryPassword(rightPassword()); }), int(QDialog::Accepted));
+    QVERIFY(!desk.dialog.lUnlocked());
+    QVERIFY(!desk.dialog.isVisible());
+    QCOMPARE(desk.takeWire(), showingCommands() << "?Secret");
+    QCOMPARE(desk.robot.problems(), QString());
+    QVERIFY(desk.link->lConnectAuto());
+    QCOMPARE(troubleWithNextUse(desk), QString());
 }
 
 // The password on its way stays as it was, and what was typed is cleared with it.
