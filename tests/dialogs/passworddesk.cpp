@@ -94,22 +94,22 @@ int PasswordDesk::run(const std::function<void()>& action)
     return dialog.exec();
 }
 
-void PasswordDesk::pressOk()
+void PasswordDesk::pressOk() const
 {
     QTest::mouseClick(find<QDialogButtonBox>("buttonBox")->button(QDialogButtonBox::Ok), Qt::LeftButton);
 }
 
-void PasswordDesk::pressCancel()
+void PasswordDesk::pressCancel() const
 {
     QTest::mouseClick(find<QDialogButtonBox>("buttonBox")->button(QDialogButtonBox::Cancel), Qt::LeftButton);
 }
 
-void PasswordDesk::pressToggle()
+void PasswordDesk::pressToggle() const
 {
     QTest::mouseClick(find<QPushButton>("buttonToggleInfo"), Qt::LeftButton);
 }
 
-void PasswordDesk::tryPassword(const QString& text)
+void PasswordDesk::tryPassword(const QString& text) const
 {
     find<QLineEdit>("linePassw")->setText(text);
     pressOk();
@@ -126,7 +126,7 @@ void PasswordDesk::expectNoAnswer()
     expectIncorrect();
 }
 
-void PasswordDesk::disturb(const QByteArray& command, Fault::Kind kind, const QByteArray& bytes)
+void PasswordDesk::disturb(const QByteArray& command, Fault::Kind kind, const QByteArray& bytes) const
 {
     Fault fault;
     fault.kind = kind;
@@ -135,7 +135,7 @@ void PasswordDesk::disturb(const QByteArray& command, Fault::Kind kind, const QB
     logger->faults().add(fault);
 }
 
-void PasswordDesk::atCommand(const QByteArray& command, const std::function<void()>& action)
+void PasswordDesk::atCommand(const QByteArray& command, const std::function<void()>& action) const
 {
     auto* watcher = new QObject(logger);
     QObject::connect(logger, &SimulatedPort::sCommandReceived, watcher,
@@ -148,7 +148,7 @@ void PasswordDesk::atCommand(const QByteArray& command, const std::function<void
                      });
 }
 
-QList<QByteArray> PasswordDesk::takeWire()
+QList<QByteArray> PasswordDesk::takeWire() const
 {
     const QList<QByteArray> commands = logger->commands();
     logger->clearExchanges();

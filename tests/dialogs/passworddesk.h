@@ -40,23 +40,23 @@ public:
     /// Runs the dialog's own event loop, does @p action when the dialog is on the screen, and gives the
     /// result.
     int run(const std::function<void()>& action);
-    void pressOk();
-    void pressCancel();
-    void pressToggle();
+    void pressOk() const;
+    void pressCancel() const;
+    void pressToggle() const;
     /// Types the password and presses OK.
-    void tryPassword(const QString& text);
+    void tryPassword(const QString& text) const;
     /// The boxes that follow a wrong password, and those that follow no answer.
     void expectIncorrect();
     void expectNoAnswer();
 
     /// A fault for every command that begins so.
-    void disturb(const QByteArray& command, Fault::Kind kind, const QByteArray& bytes = {});
+    void disturb(const QByteArray& command, Fault::Kind kind, const QByteArray& bytes = {}) const;
     /// Does @p action when the next such command has come to the logger, before it is answered.
-    void atCommand(const QByteArray& command, const std::function<void()>& action);
+    void atCommand(const QByteArray& command, const std::function<void()>& action) const;
     /// Unplugs the logger.
     void unplug() { bench.unplug(logger); }
     /// The commands on the wire since connecting or since the last call.
-    QList<QByteArray> takeWire();
+    QList<QByteArray> takeWire() const;
 
     UsbBench bench;
     SimulatedPort* logger;

@@ -24,12 +24,12 @@ bool SettingsDesk::isEnabled(const char* widget) const
     return find<QWidget>(widget)->isEnabled();
 }
 
-void SettingsDesk::check(const char* box, bool checked)
+void SettingsDesk::check(const char* box, bool checked) const
 {
     find<QCheckBox>(box)->setChecked(checked);
 }
 
-void SettingsDesk::choose(const char* combo, int row)
+void SettingsDesk::choose(const char* combo, int row) const
 {
     find<QComboBox>(combo)->setCurrentIndex(row);
 }

@@ -22,8 +22,8 @@ public:
     }
     bool isChecked(const char* box) const;
     bool isEnabled(const char* widget) const;
-    void check(const char* box, bool checked = true);
-    void choose(const char* combo, int row);
+    void check(const char* box, bool checked = true) const;
+    void choose(const char* combo, int row) const;
     /// Shows the dialog without waiting for its end.
     void open();
 
