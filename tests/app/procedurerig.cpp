@@ -26,13 +26,6 @@ SimulatedPort* ProcedureRig::plug(const LoggerModel& model, const UsbIdentity& i
     return port;
 }
 
-void ProcedureRig::plugAndConnect(const LoggerModel& model)
-{
-    plug(model);
-    press("buttonConnect");
-    logger->clearExchanges();
-}
-
 void ProcedureRig::unplugAll()
 {
     for (SimulatedPort* port : bench.ports())

@@ -10,8 +10,7 @@ public:
     explicit ProcedureRig(const Settings& settings = quietSettings());
 
     /// As in WindowRig.
-    SimulatedPort* plug(const LoggerModel& model = basicLogger(), const UsbIdentity& identity = {});
-    void plugAndConnect(const LoggerModel& model = basicLogger());
+    SimulatedPort* plug(const LoggerModel& model = basicLogger(), const UsbIdentity& identity = {}) override;
     /// Pulls the plug of every logger; the next one to be plugged in is `logger`.
     void unplugAll();
 

@@ -13,6 +13,13 @@
 
 class QProgressDialog;
 
+/// The logger of most tests: basic firmware 1.1.9, with a value of its own in every place.
+LoggerModel basicLogger();
+/// Firmware 1.2.0, otherwise the same.
+LoggerModel extendedLogger();
+/// Basic firmware, and the sampling time, the start delay and the range are on no list of the setup panel.
+LoggerModel customLogger();
+
 /// A main window, a bench with simulated loggers, and a robot that answers the window's boxes. Widgets go by
 /// their object names, as an operator would find them by their place.
 class WindowRig
@@ -20,11 +27,12 @@ class WindowRig
 public:
     /// Shows the window, started with @p settings; nothing is plugged in yet.
     explicit WindowRig(const Settings& settings = quietSettings());
+    virtual ~WindowRig() = default;
 
     /// Plugs in a logger; the first one is also `logger`.
-    SimulatedPort* plug(const LoggerModel& model = {}, const UsbIdentity& identity = {});
+    virtual SimulatedPort* plug(const LoggerModel& model = basicLogger(), const UsbIdentity& identity = {});
     /// Plugs in a logger, connects to it and empties the record of the wire.
-    void plugAndConnect(const LoggerModel& model = {});
+    void plugAndConnect(const LoggerModel& model = basicLogger());
 
     template<typename Widget>
     Widget* find(const char* name) const
@@ -67,10 +75,3 @@ public:
     DialogRobot robot;
     SimulatedPort* logger = nullptr;
 };
-
-/// The logger of most tests: basic firmware 1.1.9, with a value of its own in every place.
-LoggerModel basicLogger();
-/// Firmware 1.2.0, otherwise the same.
-LoggerModel extendedLogger();
-/// Basic firmware, and the sampling time, the start delay and the range are on no list of the setup panel.
-LoggerModel customLogger();
