@@ -1,7 +1,6 @@
 // Connecting and disconnecting: what goes over the wire, what the window shows, what it asks.
 
 #include "procedurerig.h"
-#include "support/testclock.h"
 #include "windowstate.h"
 #include "windowwords.h"
 
@@ -26,7 +25,6 @@ private slots:
     void connectsAnewAfterFailedRead();
     void connectsAnewAfterCancelledRead();
     void looksDiffer();
-    void stopsClock();
     void statusStaysWhileTheMouseIsOverAMenu();
 };
 
@@ -142,20 +140,6 @@ void TestMainWindowConnect::looksDiffer()
     const auto* button = rig.find<QPushButton>("buttonConnect");
     QVERIFY(iconDistance(*button, QStringLiteral(":/icon_connect.png")) <= largestIconDistance);
     QVERIFY(iconDistance(*button, QStringLiteral(":/icon_disconnect.png")) > 2 * largestIconDistance);
-}
-
-// A clock that went on ticking would write over the dash within a second.
-void TestMainWindowConnect::stopsClock()
-{
-    ProcedureRig rig;
-    rig.plugAndConnect();
-    const QString atRead = rig.text("labelDateTime");
-    TestClock::shift(60000);
-    QTRY_VERIFY(rig.text("labelDateTime") != atRead);
-    rig.press("buttonConnect");
-    QTest::qWait(1500);
-    QCOMPARE(rig.text("labelDateTime"), QStringLiteral(" - "));
-    QCOMPARE(rig.robot.problems(), QString());
 }
 
 void TestMainWindowConnect::statusStaysWhileTheMouseIsOverAMenu()
