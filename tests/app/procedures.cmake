@@ -11,7 +11,7 @@ target_link_libraries(brumalogger_proceduretests PUBLIC brumalogger_testsupport)
 foreach(concern
     discovery connect
     read readfailures readreplies
-    write writefailures
+    write writefailures results
     start
     extendedread extendedfailures extendedclosing unlock options
     unplug closing interruptions)
