@@ -64,6 +64,7 @@ private slots:
     void cursorJumpsToTheEnd();
     void transliterates_data();
     void transliterates();
+    void transliteratesWhatIsTyped();
     void countsAfterDeleting();
     void linesAreApart();
     void textsFromTheLogger();
@@ -212,6 +213,18 @@ void TestMainWindowTexts::transliterates()
     edit->setText(pasted);
     QCOMPARE(edit->text(), expected);
     QCOMPARE(rig->text(row.counter), count(expected.size(), row.limit));
+}
+
+void TestMainWindowTexts::transliteratesWhatIsTyped()
+{
+    QLineEdit* sender = edit("lineSender");
+    QTest::sendKeyEvent(QTest::Click, sender, Qt::Key_Eacute, QStringLiteral("é"), Qt::NoModifier);
+    QCOMPARE(sender->text(), QStringLiteral("e"));
+    QCOMPARE(rig->text("labelCountSender"), QStringLiteral("(1/60)"));
+    sender->setText(QStringLiteral("Sant"));
+    QTest::sendKeyEvent(QTest::Click, sender, Qt::Key_Eacute, QStringLiteral("é"), Qt::NoModifier);
+    QCOMPARE(sender->text(), QStringLiteral("Sante"));
+    QCOMPARE(rig->text("labelCountSender"), QStringLiteral("(5/60)"));
 }
 
 void TestMainWindowTexts::countsAfterDeleting()
