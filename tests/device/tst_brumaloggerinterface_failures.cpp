@@ -254,13 +254,16 @@ void TestBrumaloggerInterfaceFailures::otherErrorsAreIgnored_data()
 void TestBrumaloggerInterfaceFailures::otherErrorsAreIgnored()
 {
     QFETCH(QSerialPort::SerialPortError, error);
-    const BrumaloggerInterface link;
-    auto* port = link.findChild<QSerialPort*>();
+    DeviceRig rig;
+    QSerialPort* port = rig.port();
     QSignalSpy errors(port, QOverload<QSerialPort::SerialPortError>::of(&QSerialPort::error));
     const LogLines log;
     emit port->error(error);
     QCOMPARE(errors.count(), 1);
     QCOMPARE(log.all(), QStringList());
+    QVERIFY(port->isOpen());
+    QVERIFY(rig.link.lIsConnected());
+    QVERIFY(rig.link.lSendCommandK());
 }
 
 QTEST_MAIN(TestBrumaloggerInterfaceFailures)
