@@ -1,6 +1,7 @@
 // The zone of the device's clock on display, and the button of the editor behind it.
 
 #include "timerig.h"
+#include "zoneaccess.h"
 
 #include "dialogs/settingsdialog.h"
 
@@ -33,6 +34,8 @@ private slots:
     void editorNeedsADeviceAndReferenceTime();
     void answerDuringAReadTouchesNoControls();
     void answerWithoutADevice();
+    void adoptedZoneIsShown();
+    void unknownZoneFallsBack();
 };
 
 void TestMainWindowZoneLabel::zoneOfTheDevicesClock_data()
@@ -139,6 +142,35 @@ void TestMainWindowZoneLabel::answerWithoutADevice()
     QCOMPARE(rig.zone(), QString());
     QVERIFY(!rig.controlsEnabled());
     QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowZoneLabel::adoptedZoneIsShown()
+{
+    Servers servers;
+    servers.answer(NtpAnswer::currentTime());
+    TimeRig rig(timeSettings());
+    QVERIFY(rig.comesTo(fetchedServer));
+    rig.plugAndConnect();
+    QCOMPARE(rig.zone(), QStringLiteral("GMT, label, button"));
+    setZone(rig.window, QStringLiteral("GMT-5:00"));
+    QCOMPARE(rig.zone(), QStringLiteral("GMT-5:00, label, button"));
+    QCOMPARE(currentZone(rig.window), QStringLiteral("GMT-5:00"));
+}
+
+// In the window's books only: clock and label stay as they are until they are next looked at.
+void TestMainWindowZoneLabel::unknownZoneFallsBack()
+{
+    Servers servers;
+    servers.answer(NtpAnswer::currentTime());
+    TimeRig rig(timeSettings());
+    QVERIFY(rig.comesTo(fetchedServer));
+    rig.plugAndConnect(loggerAhead(7200));
+    QCOMPARE(currentZone(rig.window), QStringLiteral("GMT+2:00"));
+    setZone(rig.window, QStringLiteral("GMT+99:00"));
+    QCOMPARE(currentZone(rig.window), QStringLiteral("GMT"));
+    QCOMPARE(rig.zone(), QStringLiteral("GMT+2:00, label, button"));
+    rig.dialog->accept();
+    QCOMPARE(currentZone(rig.window), QStringLiteral("GMT+2:00"));
 }
 
 QTEST_MAIN(TestMainWindowZoneLabel)
