@@ -20,6 +20,15 @@ LoggerModel loggerAhead(int seconds)
     return model;
 }
 
+/// Firmware with time zones, in one that its clock doesn't tell of.
+LoggerModel loggerInIndia()
+{
+    LoggerModel model = extendedLogger();
+    model.settings().clockOffset = 7200;
+    model.settings().timeZoneOffset = 19800;
+    return model;
+}
+
 } // namespace
 
 class TestMainWindowZoneLabel : public QObject
@@ -34,8 +43,13 @@ private slots:
     void editorNeedsADeviceAndReferenceTime();
     void answerDuringAReadTouchesNoControls();
     void answerWithoutADevice();
+    void zoneOnTheDeviceWins();
+    void zoneOnTheDeviceNeedsNoTimeConfiguration_data();
+    void zoneOnTheDeviceNeedsNoTimeConfiguration();
     void adoptedZoneIsShown();
     void unknownZoneFallsBack();
+    void settingsAcceptedDuringAReadTouchNoControls_data();
+    void settingsAcceptedDuringAReadTouchNoControls();
 };
 
 void TestMainWindowZoneLabel::zoneOfTheDevicesClock_data()
@@ -144,6 +158,38 @@ void TestMainWindowZoneLabel::answerWithoutADevice()
     QCOMPARE(rig.robot.problems(), QString());
 }
 
+void TestMainWindowZoneLabel::zoneOnTheDeviceWins()
+{
+    Servers servers;
+    servers.answer(NtpAnswer::currentTime());
+    TimeRig rig(timeSettings());
+    QVERIFY(rig.comesTo(fetchedServer));
+    rig.plugAndConnect(loggerInIndia());
+    QCOMPARE(rig.zone(), QStringLiteral("GMT+5:30, label, button"));
+    QCOMPARE(currentZone(rig.window), QStringLiteral("GMT+5:30"));
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowZoneLabel::zoneOnTheDeviceNeedsNoTimeConfiguration_data()
+{
+    QTest::addColumn<bool>("extended");
+    QTest::addColumn<QString>("zone");
+    QTest::newRow("with time zones") << true << "GMT+5:30, label";
+    QTest::newRow("without") << false << "";
+}
+
+void TestMainWindowZoneLabel::zoneOnTheDeviceNeedsNoTimeConfiguration()
+{
+    QFETCH(const bool, extended);
+    TimeRig rig(quietSettings());
+    QCOMPARE(rig.zone(), QString());
+    rig.plugAndConnect(extended ? loggerInIndia() : loggerAhead(7200));
+    QTEST(rig.zone(), "zone");
+    rig.press("buttonConnect");
+    QCOMPARE(rig.zone(), QString());
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
 void TestMainWindowZoneLabel::adoptedZoneIsShown()
 {
     Servers servers;
@@ -171,6 +217,45 @@ void TestMainWindowZoneLabel::unknownZoneFallsBack()
     QCOMPARE(rig.zone(), QStringLiteral("GMT+2:00, label, button"));
     rig.dialog->accept();
     QCOMPARE(currentZone(rig.window), QStringLiteral("GMT+2:00"));
+}
+
+void TestMainWindowZoneLabel::settingsAcceptedDuringAReadTouchNoControls_data()
+{
+    QTest::addColumn<bool>("pool");
+    QTest::addColumn<QString>("zoneThen");
+    QTest::addColumn<QString>("zoneAfterwards");
+    QTest::newRow("reference time kept") << false << "GMT, label, disabled button"
+                                         << "GMT, label, button";
+    QTest::newRow("reference time asked for") << true << "disabled button"
+                                              << "disabled button";
+}
+
+// A query under way leaves no reference time until it is answered.
+void TestMainWindowZoneLabel::settingsAcceptedDuringAReadTouchNoControls()
+{
+    QFETCH(const bool, pool);
+    Servers servers;
+    servers.answer(NtpAnswer::currentTime());
+    TimeRig rig(timeSettings());
+    QVERIFY(rig.comesTo(fetchedServer));
+    rig.plugAndConnect();
+    servers.answer(NtpAnswer::silence());
+    const int requests = servers.requests();
+    QString zone;
+    QString status;
+    rig.atCommand(6, [&] {
+        rig.check("checkUsePool", pool);
+        rig.dialog->accept();
+        zone = rig.zone();
+        status = rig.status();
+    });
+    rig.press("buttonRead");
+    QTEST(zone, "zoneThen");
+    QTEST(rig.zone(), "zoneAfterwards");
+    QCOMPARE(status == fetchingPool, pool);
+    QVERIFY(!pool || QTest::qWaitFor([&] { return servers.requests() > requests; }));
+    QCOMPARE(rig.wire(), readCommands());
+    QCOMPARE(rig.robot.problems(), QString());
 }
 
 QTEST_MAIN(TestMainWindowZoneLabel)
