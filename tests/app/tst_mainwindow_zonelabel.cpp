@@ -4,6 +4,7 @@
 #include "zoneaccess.h"
 
 #include "dialogs/settingsdialog.h"
+#include "presets/loglines.h"
 
 #include <QTest>
 
@@ -48,6 +49,7 @@ private slots:
     void zoneOnTheDeviceNeedsNoTimeConfiguration();
     void adoptedZoneIsShown();
     void unknownZoneFallsBack();
+    void updateIsLoggedWithReferenceTimeOnly();
     void settingsAcceptedDuringAReadTouchNoControls_data();
     void settingsAcceptedDuringAReadTouchNoControls();
 };
@@ -217,6 +219,27 @@ void TestMainWindowZoneLabel::unknownZoneFallsBack()
     QCOMPARE(rig.zone(), QStringLiteral("GMT+2:00, label, button"));
     rig.dialog->accept();
     QCOMPARE(currentZone(rig.window), QStringLiteral("GMT+2:00"));
+}
+
+void TestMainWindowZoneLabel::updateIsLoggedWithReferenceTimeOnly()
+{
+    const QString line = QStringLiteral("debug: Updating time zone on UI...");
+    Servers servers;
+    servers.answer(NtpAnswer::currentTime().later());
+    const LogLines log;
+    TimeRig rig(timeSettings());
+    rig.dialog->accept();
+    QVERIFY(QTest::qWaitFor([&] { return servers.requests() > 0; }));
+    QCOMPARE(log.all().count(line), 0); // time configuration alone
+    servers.release();
+    QVERIFY(rig.comesTo(fetchedServer));
+    const int before = log.all().count(line);
+    rig.check("checkDisableTime", true);
+    rig.dialog->accept();
+    QCOMPARE(log.all().count(line), before); // reference time alone
+    rig.check("checkDisableTime", false);
+    rig.dialog->accept();
+    QCOMPARE(log.all().count(line), before + 1);
 }
 
 void TestMainWindowZoneLabel::settingsAcceptedDuringAReadTouchNoControls_data()
