@@ -141,6 +141,9 @@ void TestSettingsDialogLanguages::choiceByHandIsAnsweredInItsLanguage_data()
     QTest::newRow("en_us")
         << "Information"
         << "Please click OK and restart the application for these settings to take effect.";
+    QTest::newRow("xx_yy") // of which there are no words
+        << "Information"
+        << "Please click OK and restart the application for these settings to take effect.";
 }
 
 void TestSettingsDialogLanguages::choiceByHandIsAnsweredInItsLanguage()
@@ -149,7 +152,9 @@ void TestSettingsDialogLanguages::choiceByHandIsAnsweredInItsLanguage()
     QFETCH(QString, text);
     const QByteArray language = QTest::currentDataTag();
     SettingsDesk desk(settingsOf(language == "en_us" ? "de_de" : "en_us"));
-    desk.dialog.setLanguages(someLanguages());
+    LanguageTable languages = someLanguages();
+    languages.insert(QStringLiteral("xx_yy"), {QStringLiteral("Elsewhere"), QStringLiteral("xx")});
+    desk.dialog.setLanguages(languages);
     desk.dialog.loadSettings();
     if (language == "de_de")
         chooseByHand(desk, "en_us");
