@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QStatusBar>
 #include <QTest>
 #include <QToolButton>
 
@@ -220,13 +221,21 @@ void TestMainWindowSettings::acceptedAtAnyCommandOfAProcedure()
     QCOMPARE(rig.robot.problems(), QString());
 }
 
-// The dialog first takes back a preset without a path.
+// Asking for the time is a part of applying the settings. The dialog first takes back a preset without a
+// path.
 void TestMainWindowSettings::fileIsWrittenBeforeTheSettingsApply()
 {
     Rig rig;
     rig.plugAndConnect();
     rig.check("checkPreset");
+    rig.check("checkDisableTime", false);
+    QList<Settings> files;
+    QObject::connect(rig.find<QStatusBar>("statusBar"), &QStatusBar::messageChanged, &rig.window,
+                     [&files] { files << WorkFolder::configuration(); });
     rig.dialog->accept();
+    QCOMPARE(files.size(), 1);
+    QCOMPARE(files.first().value(key("preseten")), key("0"));
+    QCOMPARE(files.first().value(key("disabletime")), key("0"));
     QVERIFY(!rig.isEnabled("buttonPreset"));
 }
 
