@@ -41,6 +41,26 @@ void SettingsDesk::open()
         qFatal("the dialog was never exposed");
 }
 
+QString SettingsDesk::summary() const
+{
+    const auto word = [](bool set, const char* name) {
+        return QLatin1String(set ? "" : "no ") + QLatin1String(name);
+    };
+    const QSize size = dialog.savedWindowSize();
+    return QStringList({word(dialog.presetEnabled(), "preset"),
+                        QLatin1Char('"') + dialog.presetPath() + QLatin1Char('"'),
+                        word(dialog.timeEnabled(), "time"), word(dialog.poolEnabled(), "pool"),
+                        word(dialog.fastEnabled(), "fast"), QStringLiteral("%1 pt").arg(dialog.fontSize()),
+                        dialog.timeServer(), QStringLiteral("%1x%2").arg(size.width()).arg(size.height())})
+        .join(QStringLiteral(", "));
+}
+
+QString SettingsDesk::defaults() const
+{
+    return QStringLiteral("no preset, \"\", time, no pool, fast, %1 pt, time.google.com, 0x0")
+        .arg(dialog.font().pointSize());
+}
+
 LanguageTable someLanguages()
 {
     const auto row = [](const char* name, const char* stem) {

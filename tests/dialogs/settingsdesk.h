@@ -24,6 +24,10 @@ public:
     bool isEnabled(const char* widget) const;
     void check(const char* box, bool checked = true) const;
     void choose(const char* combo, int row) const;
+    /// All getters of the dialog in one line.
+    QString summary() const;
+    /// The same of a dialog that never read a file.
+    QString defaults() const;
     /// Shows the dialog without waiting for its end.
     void open();
 
