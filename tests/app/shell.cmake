@@ -34,7 +34,7 @@ target_compile_definitions(tst_mainwindow_layout PRIVATE FORM_FILE="${PROJECT_SO
 # Closing a window from outside takes a real X server, and the test is a client of it like the program itself.
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
-add_executable(tst_program tst_program.cpp)
+add_executable(tst_program screen.cpp screen.h tst_program.cpp)
 target_link_libraries(tst_program PRIVATE brumalogger_testsupport PkgConfig::XCB)
 target_compile_definitions(tst_program PRIVATE PROGRAM_FILE="$<TARGET_FILE:brumalogger-config-gui>")
 add_dependencies(tst_program brumalogger-config-gui)
