@@ -7,7 +7,11 @@
 #include "support/workfolder.h"
 
 #include <QByteArray>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QScopedPointer>
 #include <QSignalSpy>
 #include <QStringList>
@@ -70,6 +74,10 @@ private slots:
     void keepsItsSettingsFromStartToStart_data();
     void keepsItsSettingsFromStartToStart();
     void firstStartLeavesItsDefaults();
+    void startsWithADamagedFile_data();
+    void startsWithADamagedFile();
+    void startsWithAFolderForItsFile();
+    void startsWithAForbiddenFile();
 
 private:
     /// Starts the program and waits for its window; 0 if none came.
@@ -221,6 +229,61 @@ void TestProgram::firstStartLeavesItsDefaults()
     QVERIFY(window != 0);
     QVERIFY(end(window));
     QCOMPARE(configurationBesidesTheFont(), defaults());
+}
+
+void TestProgram::startsWithADamagedFile_data()
+{
+    QByteArray binary;
+    QRandomGenerator random(12);
+    for (int i = 0; i < 5000; ++i)
+        binary.append(static_cast<char>(random.generate()));
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("binary") << binary;
+    QTest::newRow("enormous") << "2.0\n" + QByteArray(8 << 20, 'A');
+}
+
+void TestProgram::startsWithADamagedFile()
+{
+    QFETCH(const QByteArray, bytes);
+    QFile file(QStringLiteral("blconf"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), qint64(bytes.size()));
+    file.close();
+    const xcb_window_t window = start({});
+    QVERIFY(window != 0);
+    QVERIFY(end(window));
+    QCOMPARE(program->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program->exitCode(), 0);
+    QCOMPARE(configurationBesidesTheFont(), defaults());
+}
+
+void TestProgram::startsWithAFolderForItsFile()
+{
+    folder.reset();
+    folder.reset(new WorkFolder(Settings()));
+    QVERIFY(QDir().mkdir(QStringLiteral("blconf")));
+    const xcb_window_t window = start({});
+    QVERIFY(window != 0);
+    QCOMPARE(screen->sizeOf(window), QSize(850, 789));
+    QVERIFY(end(window));
+    QCOMPARE(program->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program->exitCode(), 0);
+    QVERIFY(QDir(QStringLiteral("blconf")).isEmpty());
+}
+
+void TestProgram::startsWithAForbiddenFile()
+{
+    folder.reset();
+    folder.reset(new WorkFolder({{QStringLiteral("winwidth"), QStringLiteral("910")},
+                                 {QStringLiteral("winheight"), QStringLiteral("805")}}));
+    QVERIFY(QFile::setPermissions(QStringLiteral("blconf"), {}));
+    const bool readable = QFileInfo(QStringLiteral("blconf")).isReadable(); // as it is to the superuser
+    const xcb_window_t window = start({});
+    QVERIFY(window != 0);
+    QCOMPARE(screen->sizeOf(window), readable ? QSize(910, 805) : QSize(850, 789));
+    QVERIFY(end(window));
+    QCOMPARE(program->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program->exitCode(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestProgram)
