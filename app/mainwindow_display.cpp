@@ -82,6 +82,7 @@ void MainWindow::plUpdateTimeZoneLabel()
             const QDateTime shown = timeKeeper.timeUtc();
             match = timeManager->matchTimeZoneByDateTime(shown.date(), shown.time());
         }
+        // It comes enabled, so not where a zone must not be chosen: during a procedure, or without a device.
         if (!controlsDisabled) {
             ui->buttonToolTimeZone->show();
             ui->buttonToolTimeZone->setEnabled(true);
