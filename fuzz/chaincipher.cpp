@@ -5,29 +5,19 @@
 #include "presets/chaincipher.h"
 #include "presets/referencecipher.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 
 namespace {
 
 constexpr quint64 key = ReferenceCipher::fileKey;
 
+} // namespace
+
 QByteArray repaired(const QByteArray& cipher, QRandomGenerator* random)
 {
     return mutatedCipher(key, cipher, random);
-}
-
-} // namespace
-
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
-{
-    silenceLog();
-    return 0;
-}
-
-extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t maxSize,
-                                               unsigned int seed)
-{
-    return mutateInPlace(data, size, maxSize, seed, repaired);
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

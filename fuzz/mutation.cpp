@@ -1,4 +1,4 @@
-// Changes that keep an input worth deciphering.
+// Changes that keep an input worth deciphering, and what the fuzzers share of their entry points.
 
 #include "mutation.h"
 
@@ -6,6 +6,8 @@
 
 #include <QtEndian>
 
+#include <cstddef>
+#include <cstdint>
 #include <cstring>
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
@@ -61,21 +63,24 @@ QByteArray mutatedCipher(quint64 key, const QByteArray& cipher, QRandomGenerator
     return ReferenceCipher::encipher(key, mutated(plainOf(key, cipher)), flags, randomByte);
 }
 
-std::size_t mutateInPlace(std::uint8_t* data, std::size_t size, std::size_t maxSize, unsigned int seed,
-                          Mutation repairing)
+// The log, which the program under test fills, is silenced.
+extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
+{
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    return 0;
+}
+
+// One time in four only bytes are changed.
+extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t maxSize,
+                                               unsigned int seed)
 {
     QRandomGenerator random(seed);
     if (random.bounded(4) == 0)
         return LLVMFuzzerMutate(data, size, maxSize);
     const QByteArray input(reinterpret_cast<const char*>(data), static_cast<int>(size));
-    const QByteArray result = repairing(input, &random);
+    const QByteArray result = repaired(input, &random);
     if (static_cast<std::size_t>(result.size()) > maxSize)
         return LLVMFuzzerMutate(data, size, maxSize);
     std::memcpy(data, result.constData(), static_cast<std::size_t>(result.size()));
     return static_cast<std::size_t>(result.size());
-}
-
-void silenceLog()
-{
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
 }

@@ -3,7 +3,7 @@
 #include "presetfiles.h"
 
 #include "presets/presetstorage.h"
-#include "referencecipher.h"
+#include "support/testclock.h"
 
 #include <QFile>
 
@@ -19,15 +19,6 @@ QString textOf(const QByteArray& bytes)
 }
 
 } // namespace
-
-QString PresetFiles::digestText(const QByteArray& body)
-{
-    QByteArray hash = sha1(body);
-    const int zero = hash.indexOf('\0');
-    if (zero >= 0)
-        hash.truncate(zero);
-    return QString::fromUtf8(hash);
-}
 
 QByteArray PresetFiles::enciphered(const QByteArray& body, const QString& digest)
 {
@@ -75,6 +66,12 @@ void PresetFiles::fill(PresetStorage* storage, const Table& table)
 {
     for (auto entry = table.cbegin(); entry != table.cend(); ++entry)
         storage->setValue(entry.key(), entry.value());
+}
+
+void PresetFiles::setClock(const QDate& date, const QTime& time)
+{
+    TestClock::ignoreStalls();
+    TestClock::set(QDateTime(date, time).toMSecsSinceEpoch());
 }
 
 PresetFiles::Table PresetFiles::throughAFile(const Table& table)

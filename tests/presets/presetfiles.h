@@ -1,6 +1,9 @@
 #pragma once
 
+#include "referencecipher.h"
+
 #include <QByteArray>
+#include <QDateTime>
 #include <QMap>
 #include <QString>
 #include <QTemporaryDir>
@@ -12,8 +15,10 @@ namespace PresetFiles {
 
 using Table = QMap<QString, QString>;
 
-/// What the digest line of a file with @p body holds.
-QString digestText(const QByteArray& body);
+/// What is logged of a file whose digest is wrong, as LogLines has it.
+const QString mismatch = QStringLiteral("warning: Checksum mismatch. Skipping file.");
+
+using ReferenceCipher::digestText;
 
 /// A file of version 2.0 with any body and digest.
 QByteArray enciphered(const QByteArray& body, const QString& digest);
@@ -28,6 +33,10 @@ Table entries(const QByteArray& body);
 /// Everything in @p storage, under the same conditions.
 Table contents(PresetStorage& storage);
 void fill(PresetStorage* storage, const Table& table);
+/// Sets the test clock to the computer's local time, by default that of the format page's file; a test that
+/// does so resets it.
+void setClock(const QDate& date = QDate(2021, 3, 4), const QTime& time = QTime(17, 58, 9));
+
 /// What a storage holds that has loaded what another one saved of @p table; the test program ends if either
 /// fails.
 Table throughAFile(const Table& table);

@@ -57,6 +57,15 @@ QByteArray ReferenceCipher::sha1(const QByteArray& data)
     return QCryptographicHash::hash(data, QCryptographicHash::Sha1);
 }
 
+QString ReferenceCipher::digestText(const QByteArray& body)
+{
+    QByteArray hash = sha1(body);
+    const int zero = hash.indexOf('\0');
+    if (zero >= 0)
+        hash.truncate(zero);
+    return QString::fromUtf8(hash);
+}
+
 QByteArray ReferenceCipher::compress(const QByteArray& plain)
 {
     uLongf size = compressBound(static_cast<uLong>(plain.size()));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 
 /// A second reading of the format, which shares no code with the product: its own CRC and chain, and zlib
 /// itself.
@@ -13,6 +14,8 @@ constexpr quint64 fileKey = 0xB7D2084F5A3C96E1;
 
 quint16 crc16(const QByteArray& data);
 QByteArray sha1(const QByteArray& data);
+/// What the digest line of a file with @p body holds.
+QString digestText(const QByteArray& body);
 
 /// Big-endian length of the plain data, then a zlib stream of level 9.
 QByteArray compress(const QByteArray& plain);

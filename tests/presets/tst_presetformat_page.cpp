@@ -8,7 +8,6 @@
 #include "referencecipher.h"
 #include "support/testclock.h"
 
-#include <QDateTime>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -117,8 +116,7 @@ void TestPresetFormatPage::bodyIsWhatIsSaved()
     const Folder folder;
     PresetStorage storage;
     fill(&storage, table);
-    TestClock::ignoreStalls();
-    TestClock::set(QDateTime(QDate(2021, 3, 4), QTime(17, 58, 9)).toMSecsSinceEpoch());
+    setClock();
     QVERIFY(storage.save(folder.path("preset")));
     const QByteArrayList saved = deciphered(read(folder.path("preset")));
     QCOMPARE(saved.value(1), block("body"));

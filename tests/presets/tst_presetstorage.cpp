@@ -7,20 +7,10 @@
 #include "support/loglines.h"
 #include "support/testclock.h"
 
-#include <QDateTime>
 #include <QMetaObject>
 #include <QTest>
 
 using namespace PresetFiles;
-
-namespace {
-
-qint64 localMoment(const QDate& date, const QTime& time)
-{
-    return QDateTime(date, time).toMSecsSinceEpoch();
-}
-
-} // namespace
 
 class TestPresetStorage : public QObject
 {
@@ -142,8 +132,7 @@ void TestPresetStorage::bodyEndsInTheDate()
     PresetStorage storage;
     storage.setValue("a", "1");
     const Folder folder;
-    TestClock::ignoreStalls();
-    TestClock::set(localMoment(date, time));
+    setClock(date, time);
     QVERIFY(storage.save(folder.path("preset")));
     QCOMPARE(deciphered(read(folder.path("preset"))).value(1), "a=1\n_gendate_:" + line);
 }
@@ -153,8 +142,7 @@ void TestPresetStorage::twoSavesDiffer()
     PresetStorage storage;
     storage.setValue("sender", "Northern Pharma");
     const Folder folder;
-    TestClock::ignoreStalls();
-    TestClock::set(localMoment(QDate(2021, 3, 4), QTime(17, 58, 9)));
+    setClock();
     QVERIFY(storage.save(folder.path("first")));
     TestClock::shift(1000);
     QVERIFY(storage.save(folder.path("second")));
@@ -167,8 +155,7 @@ void TestPresetStorage::twoSavesDiffer()
 void TestPresetStorage::emptyTableComesBackEmpty()
 {
     const Folder folder;
-    TestClock::ignoreStalls();
-    TestClock::set(localMoment(QDate(2021, 3, 4), QTime(17, 58, 9)));
+    setClock();
     QVERIFY(PresetStorage().save(folder.path("preset")));
     QCOMPARE(deciphered(read(folder.path("preset"))).value(1), QByteArray("_gendate_:58170904032021"));
     PresetStorage storage;
@@ -194,8 +181,7 @@ void TestPresetStorage::versionLineAloneIsAMismatch()
         const QString path = folder.file(text);
         const LogLines log;
         QVERIFY(!PresetStorage().load(path));
-        QCOMPARE(log.all().mid(1),
-                 QStringList({"debug: File version  2 . 0", "warning: Checksum mismatch. Skipping file."}));
+        QCOMPARE(log.all().mid(1), QStringList({"debug: File version  2 . 0", mismatch}));
     }
 }
 
@@ -269,7 +255,7 @@ void TestPresetStorage::refusedFileLeavesTheTable()
     storage.setValue("a", "old");
     const LogLines log;
     QVERIFY(!storage.load(folder.file(enciphered("a=new\n", "another digest"))));
-    QCOMPARE(log.last(), QString("warning: Checksum mismatch. Skipping file."));
+    QCOMPARE(log.last(), mismatch);
     QVERIFY(!storage.load(folder.file("1.1\na=new\n")));
     QCOMPARE(contents(storage), Table({{"a", "old"}}));
 }

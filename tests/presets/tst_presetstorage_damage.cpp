@@ -4,16 +4,13 @@
 
 #include "presetfiles.h"
 #include "support/loglines.h"
-#include "support/testclock.h"
 
-#include <QDateTime>
 #include <QTest>
 
 using namespace PresetFiles;
 
 namespace {
 
-const QString mismatch = QStringLiteral("warning: Checksum mismatch. Skipping file.");
 constexpr int versionLength = 3;
 
 } // namespace
@@ -43,7 +40,7 @@ private:
 
 void TestPresetStorageDamage::initTestCase()
 {
-    TestClock::set(QDateTime(QDate(2021, 3, 4), QTime(17, 58, 9)).toMSecsSinceEpoch());
+    setClock();
     PresetStorage storage;
     fill(&storage, small);
     QVERIFY(storage.save(folder.path("small")));

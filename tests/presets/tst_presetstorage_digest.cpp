@@ -7,7 +7,6 @@
 #include "support/loglines.h"
 #include "support/testclock.h"
 
-#include <QDateTime>
 #include <QTest>
 
 #include <functional>
@@ -20,7 +19,6 @@ using Wanted = std::function<bool(const QByteArray& hash)>;
 
 constexpr int mostTries = 100000;
 const QByteArray dateLine = QByteArrayLiteral("_gendate_:58170904032021");
-const QString mismatch = QStringLiteral("warning: Checksum mismatch. Skipping file.");
 
 /// A value with which the hash of the body is as wanted.
 QByteArray valueFor(const Wanted& wanted)
@@ -90,8 +88,7 @@ void TestPresetStorageDigest::digestTextIsLossy()
     const Folder folder;
     PresetStorage storage;
     storage.setValue("a", value);
-    TestClock::ignoreStalls();
-    TestClock::set(QDateTime(QDate(2021, 3, 4), QTime(17, 58, 9)).toMSecsSinceEpoch());
+    setClock();
     QVERIFY(storage.save(folder.path("preset")));
 
     const QByteArrayList plain = deciphered(read(folder.path("preset")));

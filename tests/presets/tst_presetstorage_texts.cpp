@@ -6,7 +6,6 @@
 #include "support/loglines.h"
 #include "support/testclock.h"
 
-#include <QDateTime>
 #include <QRandomGenerator>
 #include <QTest>
 
@@ -106,13 +105,7 @@ void TestPresetStorageTexts::randomTablesSurvive()
 
 void TestPresetStorageTexts::surrogatesAloneAreLost()
 {
-    const Folder folder;
-    PresetStorage saved;
-    saved.setValue("a", QString("x") + QChar(0xd83c) + 'y');
-    QVERIFY(saved.save(folder.path("preset")));
-    PresetStorage loaded;
-    QVERIFY(loaded.load(folder.path("preset")));
-    QCOMPARE(loaded.value("a"), QString("x?y"));
+    QCOMPARE(throughAFile({{"a", QString("x") + QChar(0xd83c) + 'y'}}), Table({{"a", "x?y"}}));
 }
 
 void TestPresetStorageTexts::orderMarkAtTheStartSurvives()
@@ -125,8 +118,7 @@ void TestPresetStorageTexts::orderMarkAtTheStartSurvives()
 void TestPresetStorageTexts::dateIsInDigitsOfAscii()
 {
     const Folder folder;
-    TestClock::ignoreStalls();
-    TestClock::set(QDateTime(QDate(2021, 3, 4), QTime(17, 58, 9)).toMSecsSinceEpoch());
+    setClock();
     QVERIFY(PresetStorage().save(folder.path("preset")));
     QCOMPARE(deciphered(read(folder.path("preset"))).value(1), QByteArray("_gendate_:58170904032021"));
 }
