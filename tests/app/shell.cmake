@@ -24,7 +24,6 @@ foreach(concern validity timesync timeanswers)
     MOCK NETWORK
   )
 endforeach()
-target_sources(tst_mainwindow_zonelabel PRIVATE ../presets/loglines.cpp ../presets/loglines.h)
 brumalogger_add_test(tst_mainwindow_servers SOURCES tst_mainwindow_servers.cpp
   LINK brumalogger_proceduretests
   MOCK TIME_SERVERS

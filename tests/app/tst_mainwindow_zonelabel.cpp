@@ -4,7 +4,7 @@
 #include "zoneaccess.h"
 
 #include "dialogs/settingsdialog.h"
-#include "presets/loglines.h"
+#include "support/loglines.h"
 
 #include <QTest>
 
