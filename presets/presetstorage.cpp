@@ -24,8 +24,11 @@ constexpr int minorWritten = 0;
 
 // A file may be one endless line; its parts fail the digest as well as the whole would, and fit into memory.
 constexpr int longestLine = 1 << 29;
-// Three bytes of UTF-8 a character at the most.
-constexpr int longestBody = ChainCipher::longestText / 3;
+// All that is saved can be loaded: the body's and the digest's line are read together, and a character of the
+// body takes up to three bytes of UTF-8, which are four characters of Base64. The rest is for what the cipher
+// adds to a text, the line's end, and the digest with its 20 characters.
+constexpr int restOfLine = 128;
+constexpr int longestBody = (longestLine - restOfLine) / 4;
 
 const QChar separator = QLatin1Char('=');
 const QChar lineFeed = QLatin1Char('\n');

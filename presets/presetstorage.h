@@ -28,7 +28,7 @@ public:
     /// table alone; a version 1.0 file replaces it.
     bool load(const QString& path);
     /// Writes the whole table as version 2.0. False, and the file left as it was, if it can't be opened or
-    /// the table is larger than the toolkit can encipher; whether the writing succeeds isn't looked at.
+    /// the table is larger than what load() reads; whether the writing succeeds isn't looked at.
     bool save(const QString& path);
 
 private:

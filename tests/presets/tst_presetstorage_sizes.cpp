@@ -11,6 +11,13 @@
 
 using namespace PresetFiles;
 
+namespace {
+
+/// Of the key "a", beside which stand the key, a "=", a line feed and the date.
+constexpr int longestValue = 134217696 - 27;
+
+} // namespace
+
 class TestPresetStorageSizes : public QObject
 {
     Q_OBJECT
@@ -24,7 +31,8 @@ private slots:
     void forgedLengthIsAMismatch_data();
     void forgedLengthIsAMismatch();
     void textTooLongForTheToolkitIsAMismatch();
-    void tableTooLongForTheToolkitIsNotSaved();
+    void longestTableComesBack();
+    void tableTooLongToBeLoadedIsNotSaved();
 };
 
 void TestPresetStorageSizes::enormousFiles_data()
@@ -125,12 +133,27 @@ void TestPresetStorageSizes::textTooLongForTheToolkitIsAMismatch()
     QCOMPARE(log.last(), mismatch);
 }
 
-void TestPresetStorageSizes::tableTooLongForTheToolkitIsNotSaved()
+void TestPresetStorageSizes::longestTableComesBack()
+{
+    const QString value(longestValue, 'x');
+    const Folder folder;
+    const QString path = folder.path("preset");
+    {
+        PresetStorage storage;
+        storage.setValue("a", value);
+        QVERIFY(storage.save(path));
+    }
+    PresetStorage storage;
+    QVERIFY(storage.load(path));
+    QVERIFY(storage.value("a") == value);
+}
+
+void TestPresetStorageSizes::tableTooLongToBeLoadedIsNotSaved()
 {
     const Folder folder;
     const QString path = folder.file("as it was");
     PresetStorage storage;
-    storage.setValue("a", QString(180 << 20, 'x'));
+    storage.setValue("a", QString(longestValue + 1, 'x'));
     QVERIFY(!storage.save(path));
     QCOMPARE(read(path), QByteArray("as it was"));
 }
