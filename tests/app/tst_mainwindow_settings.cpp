@@ -40,7 +40,10 @@ public:
         , dialog(window.findChild<SettingsDialog*>())
     {
     }
-    void check(const char* box, bool checked = true) { child<QCheckBox>(*dialog, box)->setChecked(checked); }
+    void check(const char* box, bool checked = true) const
+    {
+        child<QCheckBox>(*dialog, box)->setChecked(checked);
+    }
     /// Milliseconds that a connect takes by the program's clock.
     qint64 connectTime()
     {
@@ -136,7 +139,7 @@ void TestMainWindowSettings::fastModeIsTheLinks()
         rig.check("checkDisableFast", later);
         rig.dialog->accept();
     }
-    const qint64 leastTime = waitsOfAConnect * (later ? slowWait : fastWait);
+    const qint64 leastTime = qint64(waitsOfAConnect) * (later ? slowWait : fastWait);
     const qint64 time = rig.connectTime();
     QVERIFY2(time >= leastTime && time < leastTime * 3 / 2, qPrintable(QString::number(time)));
 }

@@ -125,7 +125,7 @@ bool ReferenceCipher::decipher(quint64 key, const QByteArray& cipher, QByteArray
 {
     if (cipher.size() < 3 || cipher.at(0) != '\x03')
         return false;
-    const int flags = cipher.at(1);
+    const int flags = static_cast<uchar>(cipher.at(1));
     const QByteArray payload = unchained(key, cipher.mid(2));
     const int fieldSize = flags & Checksum ? 2 : flags & Hash ? 20 : 0;
     const QByteArray data = payload.mid(1 + fieldSize);

@@ -52,7 +52,7 @@ QByteArray encipheredWith(char random, quint64 key, const QByteArray& plain)
         QT_WARNING_DISABLE_DEPRECATED
         qsrand(seed);
         QT_WARNING_POP
-        const QByteArray cipherText = cipher.encipherBytes(plain);
+        QByteArray cipherText = cipher.encipherBytes(plain);
         if (ReferenceCipher::unchained(key, cipherText.mid(2)).at(0) == random)
             return cipherText;
     }
@@ -74,7 +74,7 @@ private slots:
     void bodyIsWhatIsSaved();
     void digestIsOfTheBody();
     void layersFitTogether_data();
-    void layersFitTogether();
+    void layersFitTogether() const;
     void fileIsMadeOfTheCipherTexts();
     void fileIsRead();
     void plainFileIsRead();
@@ -138,7 +138,7 @@ void TestPresetFormatPage::layersFitTogether_data()
     QTest::newRow("digest") << bytesOf(block("digest")) << block("digest-payload") << block("digest-cipher");
 }
 
-void TestPresetFormatPage::layersFitTogether()
+void TestPresetFormatPage::layersFitTogether() const
 {
     QFETCH(QByteArray, plain);
     QFETCH(QByteArray, payload);

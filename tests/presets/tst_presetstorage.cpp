@@ -43,9 +43,9 @@ private slots:
 void TestPresetStorage::isAnObjectWithNothingToOffer()
 {
     QObject parent;
-    auto* storage = new PresetStorage(&parent);
-    QCOMPARE(storage->parent(), &parent);
-    const QMetaObject* meta = storage->metaObject();
+    const PresetStorage storage(&parent);
+    QCOMPARE(storage.parent(), &parent);
+    const QMetaObject* meta = storage.metaObject();
     QCOMPARE(meta->className(), "PresetStorage");
     QCOMPARE(meta->methodCount(), meta->methodOffset());
     QCOMPARE(meta->propertyCount(), meta->propertyOffset());

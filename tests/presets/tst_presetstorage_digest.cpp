@@ -24,7 +24,7 @@ const QByteArray dateLine = QByteArrayLiteral("_gendate_:58170904032021");
 QByteArray valueFor(const Wanted& wanted)
 {
     for (int i = 0; i < mostTries; ++i) {
-        const QByteArray value = QByteArray::number(i);
+        QByteArray value = QByteArray::number(i);
         if (wanted(ReferenceCipher::sha1("a=" + value + '\n' + dateLine)))
             return value;
     }
