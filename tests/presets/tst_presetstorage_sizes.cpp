@@ -3,8 +3,8 @@
 #include "presets/presetstorage.h"
 
 #include "presetfiles.h"
-#include "support/loglines.h"
 #include "referencecipher.h"
+#include "support/loglines.h"
 #include "zlibbomb.h"
 
 #include <QTest>
