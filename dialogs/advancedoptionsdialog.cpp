@@ -8,6 +8,8 @@
 #include <QDebug>
 #include <QLayout>
 #include <QMessageBox>
+#include <QScopedValueRollback>
+#include <QTimer>
 #include <QVector>
 
 namespace {
@@ -122,6 +124,17 @@ void AdvancedOptionsDialog::lStopDate(bool* enabled, QDateTime* date) const
 void AdvancedOptionsDialog::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
+    plFillControls();
+    plFitSize();
+    QDialog::showEvent(event);
+    if (closingPutOff)
+        QTimer::singleShot(0, this, &QDialog::reject);
+    closingPutOff = false;
+}
+
+void AdvancedOptionsDialog::plFillControls()
+{
+    const QScopedValueRollback<bool> guard(filling, true);
     qDebug() << "Current policies:" << policies;
     ui->labelChangesEffect->hide();
     plShowPassword();
@@ -132,8 +145,6 @@ void AdvancedOptionsDialog::showEvent(QShowEvent* event)
     plShowPolicies();
     plCheckIfPasswFieldEnabled();
     plUpdateDateTimeDisplays();
-    plFitSize();
-    QDialog::showEvent(event);
 }
 
 // The dialog's layout goes by what those of the groups say, so they come first.

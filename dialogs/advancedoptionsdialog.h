@@ -82,6 +82,7 @@ private:
     // Construction and showing
     void plConnectSignals();
     void plFitSize();
+    void plFillControls();
     void plShowPassword();
     void plNameResetByFirmware();
     void plShowPolicies();
@@ -112,4 +113,6 @@ private:
     bool startEnabled = false;
     bool stopEnabled = false;
     bool multiuse = false;
+    bool filling = false;       ///< the warning of a long password may be open meanwhile
+    bool closingPutOff = false; ///< until the dialog is on the screen
 };

@@ -26,6 +26,11 @@ bool anyChecked(std::initializer_list<const QAbstractButton*> options)
 
 void AdvancedOptionsDialog::done(int result)
 {
+    // Hidden before it is on the screen, the dialog would never end.
+    if (filling) {
+        closingPutOff = true;
+        return;
+    }
     if (result == Accepted) {
         if (!plCheckPassword() || !lValidateDates() || !plCheckPolicies())
             return;

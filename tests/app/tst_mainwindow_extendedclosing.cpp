@@ -30,6 +30,7 @@ private slots:
     void duringWrite();
     void overTheUnlockDialog();
     void overTheOptions();
+    void overTheOptionsBeforeTheyAreThere();
 };
 
 // Nothing follows the command under way, and the lock is as it was unless the password was just being tried.
@@ -90,6 +91,21 @@ void TestMainWindowExtendedClosing::overTheOptions()
     ProcedureRig rig;
     rig.plugAndConnect(secureLogger());
     atNextChance(&rig.window, [&rig] { rig.window.close(); });
+    rig.press("buttonAdvanced");
+    QCOMPARE(closedWindowRemains(rig), QString());
+    QCOMPARE(rig.wire(), QList<QByteArray>());
+}
+
+// A stored password that is too long brings a warning before the dialog is on the screen.
+void TestMainWindowExtendedClosing::overTheOptionsBeforeTheyAreThere()
+{
+    ProcedureRig rig;
+    rig.plugAndConnect(secureLogger());
+    options(rig)->lSetPassword(QString(31, QLatin1Char('x')));
+    rig.robot.expectWarning(
+        QStringLiteral("Password too long"),
+        QStringLiteral("Password may not be larger than 30 characters.\nYour input was truncated."));
+    connect(&rig.robot, &DialogRobot::sBoxOpened, &rig.window, [&rig] { rig.window.close(); });
     rig.press("buttonAdvanced");
     QCOMPARE(closedWindowRemains(rig), QString());
     QCOMPARE(rig.wire(), QList<QByteArray>());
