@@ -39,7 +39,7 @@ target_compile_definitions(tst_program PRIVATE PROGRAM_FILE="$<TARGET_FILE:bruma
 add_dependencies(tst_program brumalogger-config-gui)
 set(folder ${CMAKE_CURRENT_BINARY_DIR}/tst_program_folder)
 file(MAKE_DIRECTORY ${folder})
-add_test(NAME tst_program_x11
+add_test(NAME tst_program
   COMMAND ${PROJECT_SOURCE_DIR}/tests/network/in-private-network ${PROJECT_SOURCE_DIR}/tests/on-x-server $<TARGET_FILE:tst_program>
   WORKING_DIRECTORY ${folder})
-set_tests_properties(tst_program_x11 PROPERTIES ENVIRONMENT "${test_environment}" TIMEOUT 600)
+set_tests_properties(tst_program PROPERTIES ENVIRONMENT "${test_environment}" TIMEOUT 600)
