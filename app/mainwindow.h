@@ -121,6 +121,7 @@ private:
 
     // mainwindow_display.cpp
     void plClearDeviceInfo();
+    void plMakeRoom();
     void plFetchTime();
     /// The source of the reference time, for messages.
     QString plTimeSource() const;

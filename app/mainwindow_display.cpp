@@ -12,6 +12,7 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <QScopedValueRollback>
+#include <QScreen>
 
 void MainWindow::plSettingsAccepted()
 {
@@ -24,6 +25,17 @@ void MainWindow::plSettingsAccepted()
     if (settingsDialog->timeEnabled())
         plFetchTime();
     plUpdateTimeZoneLabel();
+    if (isVisible())
+        plMakeRoom();
+}
+
+// The form's own smallest size is for small fonts, and large ones would be cut. A size that the operator
+// chose before stays.
+void MainWindow::plMakeRoom()
+{
+    QCoreApplication::sendPostedEvents(nullptr,
+                                       QEvent::LayoutRequest); // the panels' new sizes are known by them
+    resize(size().expandedTo(minimumSizeHint().boundedTo(screen()->availableSize())));
 }
 
 // The pool is asked at every opportunity, a single server only when it is another one than before.

@@ -1,6 +1,7 @@
 // Where the widgets stand in the window, in which order the Tab key reaches them, its sizes and its icon.
 
 #include "app/mainwindow.h"
+#include "dialogs/settingsdialog.h"
 #include "formrows.h"
 #include "procedurerig.h"
 
@@ -10,6 +11,8 @@
 #include <QGroupBox>
 #include <QImage>
 #include <QRegularExpression>
+#include <QScreen>
+#include <QSpinBox>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
@@ -43,6 +46,8 @@ bool formSets(const QString& property)
         QStringLiteral("<property name=\"%1\">\\s*<bool>true</bool>").arg(property));
     return setting.match(QString::fromUtf8(file.readAll())).hasMatch();
 }
+
+constexpr QSize formSize(850, 789);
 
 /// Where a widget's upper edge is in the window.
 int topOf(const WindowRig& rig, const char* name)
@@ -78,6 +83,8 @@ private slots:
     void trackingInOneRow();
     void tabOrder();
     void sizes();
+    void growsWithItsFont_data();
+    void growsWithItsFont();
     void iconFromWorkingDirectory();
     void noIconWithoutTheFile();
     void unifiedTitle();
@@ -208,6 +215,29 @@ void TestMainWindowLayout::sizes()
     QCOMPARE(rig.window.minimumSize(), QSize(760, 680));
     rig.window.resize(100, 100);
     QCOMPARE(rig.window.size(), QSize(760, 680));
+}
+
+void TestMainWindowLayout::growsWithItsFont_data()
+{
+    QTest::addColumn<int>("font");
+    QTest::addColumn<bool>("grows");
+    QTest::newRow("8") << 8 << false;
+    QTest::newRow("11") << 11 << false;
+    QTest::newRow("20") << 20 << true;
+}
+
+// As far as the screen goes; a screen can be smaller than the form's own size.
+void TestMainWindowLayout::growsWithItsFont()
+{
+    QFETCH(const int, font);
+    QFETCH(const bool, grows);
+    const ProcedureRig rig;
+    auto* settings = rig.window.findChild<SettingsDialog*>();
+    child<QSpinBox>(*settings, "spinFont")->setValue(font);
+    settings->accept();
+    const QSize needed = rig.window.minimumSizeHint();
+    QCOMPARE(needed.width() > formSize.width(), grows);
+    QCOMPARE(rig.window.size(), formSize.expandedTo(needed.boundedTo(rig.window.screen()->availableSize())));
 }
 
 void TestMainWindowLayout::iconFromWorkingDirectory()
