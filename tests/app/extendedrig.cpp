@@ -19,6 +19,11 @@ qint64 onDeviceClock(int day, int hour)
     return QDateTime(QDate(2024, 5, day), QTime(hour, 0), Qt::UTC).toSecsSinceEpoch();
 }
 
+QString dateText(bool enabled, const QDateTime& date)
+{
+    return enabled ? date.toUTC().toString(Qt::ISODate) : QStringLiteral("off");
+}
+
 } // namespace
 
 LoggerModel secureLogger(bool multiuse)
@@ -76,6 +81,23 @@ AdvancedOptionsDialog* options(const WindowRig& rig)
 PasswordDialog* unlockDialog(const WindowRig& rig)
 {
     return rig.window.findChild<PasswordDialog*>();
+}
+
+QStringList storedOptions(const QWidget& window)
+{
+    const auto* store = window.findChild<AdvancedOptionsDialog*>();
+    bool startEnabled = false;
+    bool stopEnabled = false;
+    QDateTime startDate;
+    QDateTime stopDate;
+    store->lStartDate(&startEnabled, &startDate);
+    store->lStopDate(&stopEnabled, &stopDate);
+    return {QStringLiteral("policies %1").arg(store->lPolicies()),
+            QStringLiteral("password \"%1\"").arg(store->lPassword()),
+            QStringLiteral("lock %1").arg(store->lButtonLock()),
+            QStringLiteral("zone %1").arg(store->lTimeZoneOffset()),
+            QStringLiteral("start %1").arg(dateText(startEnabled, startDate)),
+            QStringLiteral("stop %1").arg(dateText(stopEnabled, stopDate))};
 }
 
 UnlockHand::UnlockHand(const WindowRig& rig, const QStringList& passwords)

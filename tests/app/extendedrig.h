@@ -28,6 +28,8 @@ QList<QByteArray> extendedWriteCommands();
 /// The window's dialog of the advanced options, which keeps what a read has brought.
 AdvancedOptionsDialog* options(const WindowRig& rig);
 PasswordDialog* unlockDialog(const WindowRig& rig);
+/// What that dialog keeps, a text for each value.
+QStringList storedOptions(const QWidget& window);
 
 /// Tries one password after the other whenever the unlock dialog is there, and cancels when none is left.
 class UnlockHand : public QObject

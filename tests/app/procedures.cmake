@@ -4,6 +4,7 @@ add_library(brumalogger_proceduretests STATIC
   procedurerig.cpp procedurerig.h
   progresswatch.cpp progresswatch.h
   quickwire.cpp quickwire.h
+  readingrig.cpp readingrig.h
   windowstate.cpp windowstate.h
   windowwords.cpp windowwords.h
 )
@@ -13,7 +14,7 @@ foreach(concern
     read readfailures readreplies
     write writefailures results
     start
-    extendedread extendedfailures extendedclosing unlock options
+    extendedread condition extendedfailures extendedclosing unlock options
     unplug closing interruptions)
   brumalogger_add_test(tst_mainwindow_${concern} SOURCES tst_mainwindow_${concern}.cpp
     LINK brumalogger_proceduretests MOCK)

@@ -76,6 +76,20 @@ QString TimeRig::zone() const
     return words.join(QStringLiteral(", "));
 }
 
+WaitingRig::WaitingRig(qint64 ahead)
+    : rig(timeSettings())
+{
+    servers.answer(NtpAnswer::currentTime(ahead).later());
+    if (!QTest::qWaitFor([this] { return servers.requests() > 0; }))
+        qFatal("nobody asks for the time");
+}
+
+void WaitingRig::tellTimeUntil(const QString& status)
+{
+    servers.release();
+    told = rig.comesTo(status);
+}
+
 bool otherQueryPasses()
 {
     NtpResponder other;

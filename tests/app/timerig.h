@@ -55,5 +55,18 @@ public:
     SettingsDialog* dialog;
 };
 
+/// A window whose query is under way. The answer, of a clock @p ahead milliseconds ahead, comes when it is
+/// told.
+struct WaitingRig
+{
+    explicit WaitingRig(qint64 ahead = 0);
+    /// Sends the answer, and waits for the status bar to say @p status; `told` is whether it did.
+    void tellTimeUntil(const QString& status);
+
+    Servers servers;
+    TimeRig rig;
+    bool told = false;
+};
+
 /// A whole query of another server: what was sent and answered before it has come by then.
 bool otherQueryPasses();

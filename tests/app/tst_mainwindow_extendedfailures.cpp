@@ -2,6 +2,7 @@
 
 #include "extendedrig.h"
 #include "progresswatch.h"
+#include "readingrig.h"
 #include "windowstate.h"
 #include "windowwords.h"
 
@@ -17,54 +18,18 @@ bool isText(const QByteArray& command)
            command.at(1) != '3';
 }
 
-const QList<QByteArray> testOfValidity{"m"};
-
-/// A rig just before the press of Connect or Read, with its record counting the commands of what follows.
-struct ReadingRig : ProcedureRig
+/// A rig with a logger of extended firmware.
+struct ExtendedReadingRig : ReadingRig
 {
-    explicit ReadingRig(bool connecting)
-        : connecting(connecting)
+    explicit ExtendedReadingRig(bool connecting)
+        : ReadingRig(connecting, secureLogger(), extendedReadCommands())
     {
-        plug(secureLogger());
-        if (connecting)
-            return;
-        press("buttonConnect");
-        logger->clearExchanges();
-        takeStatusLog();
     }
-
-    /// The number on the wire of a command of the read.
-    int number(int command) const { return connecting ? command + 1 : command; }
-    void run() { press(connecting ? "buttonConnect" : "buttonRead"); }
-    QList<QByteArray> commandsUpTo(int command) const
-    {
-        return firstOf(connecting ? extendedConnectCommands() : extendedReadCommands(), number(command));
-    }
-    /// After a step that failed or a cancel.
-    WindowState lostState() const { return connecting ? mixed() : disconnected(); }
-    WindowState readState() const
-    {
-        return connecting ? connected() : idle(QStringLiteral("Read successful"), false);
-    }
-    void expectFailure() { connecting ? expectConnectFailed(robot) : expectReadFailed(robot); }
-
-    bool connecting;
 };
 
-/// One row each for a connect and for a read on its own, for those of @p commands that stand in a read behind
-/// its first @p skipped ones.
-void addRows(const QList<QByteArray>& commands, int skipped = 0)
+void addRows(const QList<QByteArray>& wanted, int skipped = 0)
 {
-    QTest::addColumn<QByteArray>("command");
-    QTest::addColumn<int>("number");
-    QTest::addColumn<bool>("connecting");
-    for (int number = skipped + 1; number <= extendedReadCommands().size(); ++number) {
-        const QByteArray command = extendedReadCommands().at(number - 1);
-        if (!commands.contains(command))
-            continue;
-        QTest::addRow("%d %s in a connect", number, command.constData()) << command << number << true;
-        QTest::addRow("%d %s in a read", number, command.constData()) << command << number << false;
-    }
+    addReadingRows(extendedReadCommands(), wanted, skipped);
 }
 
 } // namespace
@@ -105,11 +70,11 @@ void TestMainWindowExtendedFailures::readFailsAtSilence()
 {
     QFETCH(const int, number);
     QFETCH(const bool, connecting);
-    ReadingRig rig(connecting);
+    ExtendedReadingRig rig(connecting);
     rig.disturb(rig.number(number), Fault::Kind::Silence);
     rig.expectFailure();
     rig.run();
-    QCOMPARE(rig.wire(), rig.commandsUpTo(number) + testOfValidity);
+    QCOMPARE(rig.wire(), rig.commandsOfReadEndingAt(number));
     QCOMPARE(panels(rig), emptyPanels());
     QCOMPARE(differences(rig, rig.lostState()), QString());
 }
@@ -123,7 +88,7 @@ void TestMainWindowExtendedFailures::readDoesWithoutSilentTexts()
 {
     QFETCH(const int, number);
     QFETCH(const bool, connecting);
-    ReadingRig rig(connecting);
+    ExtendedReadingRig rig(connecting);
     rig.disturb(rig.number(number), Fault::Kind::Silence);
     rig.run();
     const int shipmentType = extendedReadCommands().indexOf("G3");
@@ -141,7 +106,7 @@ void TestMainWindowExtendedFailures::readEndsWithoutAWordOnTheLock()
 {
     QFETCH(const int, number);
     QFETCH(const bool, connecting);
-    ReadingRig rig(connecting);
+    ExtendedReadingRig rig(connecting);
     rig.disturb(rig.number(number), Fault::Kind::Silence);
     if (connecting)
         expectReadIncorrect(rig.robot);
@@ -161,11 +126,11 @@ void TestMainWindowExtendedFailures::readKeepsTheLinkWithoutAWordOnTheBattery()
 {
     QFETCH(const int, number);
     QFETCH(const bool, connecting);
-    ReadingRig rig(connecting);
+    ExtendedReadingRig rig(connecting);
     rig.disturb(rig.number(number), Fault::Kind::Silence);
     rig.expectFailure();
     rig.run();
-    QCOMPARE(rig.wire(), rig.commandsUpTo(number) + testOfValidity);
+    QCOMPARE(rig.wire(), rig.commandsOfReadEndingAt(number));
     QCOMPARE(rig.text("labelDeviceName"), QStringLiteral("Brumalogger USB"));
     QCOMPARE(differences(rig, connecting ? connected()
                                          : idle(QStringLiteral("Read failed. Please retry."), false)),
@@ -187,14 +152,14 @@ void TestMainWindowExtendedFailures::silentDeviceIsTakenAsInvalid()
 {
     QFETCH(const QByteArray, from);
     QFETCH(const bool, connecting);
-    ReadingRig rig(connecting);
+    ExtendedReadingRig rig(connecting);
     const int number = extendedReadCommands().indexOf(from) + 1;
     rig.atCommand(rig.number(number), [&rig] { rig.disturb("", Fault::Kind::Silence); });
     rig.disturb(rig.number(number), Fault::Kind::Silence);
     expectReadFailed(rig.robot);
     expectInvalidDevice(rig.robot);
     rig.run();
-    QCOMPARE(rig.wire(), rig.commandsUpTo(number) + testOfValidity);
+    QCOMPARE(rig.wire(), rig.commandsOfReadEndingAt(number));
     QCOMPARE(panels(rig), emptyPanels());
     QStringList statuses{"Reading from device on ttyACM0", "Read failed. Please retry.",
                          "Invalid device detected.", "Disconnected from ttyACM0"};
@@ -218,11 +183,11 @@ void TestMainWindowExtendedFailures::readStopsAtCancel()
     QFETCH(const QByteArray, command);
     QFETCH(const int, number);
     QFETCH(const bool, connecting);
-    ReadingRig rig(connecting);
+    ExtendedReadingRig rig(connecting);
     rig.atCommand(rig.number(number), [&rig] { rig.pressCancel(); });
     rig.run();
     const QList<QByteArray> more = isText(command) ? QList<QByteArray>{"G3"} : QList<QByteArray>();
-    QCOMPARE(rig.wire(), rig.commandsUpTo(number) + more + testOfValidity);
+    QCOMPARE(rig.wire(), rig.commandsUpTo(number) + more + QList<QByteArray>{"m"});
     QCOMPARE(panels(rig), emptyPanels());
     QCOMPARE(differences(rig, rig.lostState()), QString());
 }
@@ -236,7 +201,7 @@ void TestMainWindowExtendedFailures::readTakesNoCancelAtItsEnd()
 {
     QFETCH(const int, number);
     QFETCH(const bool, connecting);
-    ReadingRig rig(connecting);
+    ExtendedReadingRig rig(connecting);
     rig.atCommand(rig.number(number), [&rig] { rig.pressCancel(); });
     rig.run();
     QCOMPARE(rig.wire(), connecting ? extendedConnectCommands() : extendedReadCommands());

@@ -14,59 +14,6 @@ using namespace WindowWords;
 
 namespace {
 
-const QString lowBattery = QStringLiteral(
-    "<p><span style=\" font-weight:600; color:#ff0000;\">The device's battery is LOW.</span></p>");
-const QString replaceBattery = QStringLiteral(
-    "<p><span style=\"font-weight:600; color:#ff0000;\">Please replace the battery immediately.</span></p>");
-const QString refrainFromUse = QStringLiteral(
-    "<p><span style=\"font-weight:600; color:#ff0000;\">Please refrain from using this device.</span></p>");
-
-/// "object = what it shows" for those of @p names that are on show.
-QStringList visibleLabels(const ProcedureRig& rig, const QList<const char*>& names)
-{
-    QStringList shown;
-    for (const char* name : names) {
-        if (rig.find<QLabel>(name)->isVisible())
-            shown << QStringLiteral("%1 = %2").arg(QLatin1String(name), rig.text(name));
-    }
-    return shown;
-}
-
-QStringList lastReset(const ProcedureRig& rig)
-{
-    return visibleLabels(rig, {"labelLastResetStatic", "labelLastReset"});
-}
-
-QStringList shownLastReset()
-{
-    const QString date = QDateTime::fromSecsSinceEpoch(1714557600).toString("hh:mm:ss dd/MMM/yyyy");
-    return {QStringLiteral("labelLastResetStatic = Date/time of last reset:"),
-            QStringLiteral("labelLastReset = %1 (GMT)").arg(date)};
-}
-
-QString dateText(bool enabled, const QDateTime& date)
-{
-    return enabled ? date.toUTC().toString(Qt::ISODate) : QStringLiteral("off");
-}
-
-/// All that a read puts into the store of the advanced options.
-QStringList storedOptions(const ProcedureRig& rig)
-{
-    const AdvancedOptionsDialog* store = options(rig);
-    bool startEnabled = false;
-    bool stopEnabled = false;
-    QDateTime startDate;
-    QDateTime stopDate;
-    store->lStartDate(&startEnabled, &startDate);
-    store->lStopDate(&stopEnabled, &stopDate);
-    return {QStringLiteral("policies %1").arg(store->lPolicies()),
-            QStringLiteral("password \"%1\"").arg(store->lPassword()),
-            QStringLiteral("lock %1").arg(store->lButtonLock()),
-            QStringLiteral("zone %1").arg(store->lTimeZoneOffset()),
-            QStringLiteral("start %1").arg(dateText(startEnabled, startDate)),
-            QStringLiteral("stop %1").arg(dateText(stopEnabled, stopDate))};
-}
-
 } // namespace
 
 class TestMainWindowExtendedRead : public QObject
@@ -81,12 +28,6 @@ private slots:
     void tellsTheOptionsTheType_data();
     void tellsTheOptionsTheType();
     void showsTheZone();
-    void showsLastReset_data();
-    void showsLastReset();
-    void hidesLastResetOfTheDeviceBefore();
-    void showsLowBattery_data();
-    void showsLowBattery();
-    void lowBatteryStaysUntilTheDisconnect();
     void repairsClock_data();
     void repairsClock();
     void leavesClockOfOlderFirmware();
@@ -126,8 +67,9 @@ void TestMainWindowExtendedRead::fillsTheOptions()
 {
     ProcedureRig rig;
     rig.plugAndConnect(secureLogger());
-    QCOMPARE(storedOptions(rig), QStringList({"policies 4355", "password \"\"", "lock 1", "zone 7200",
-                                              "start 2024-05-16T08:00:00Z", "stop 2024-05-20T09:00:00Z"}));
+    QCOMPARE(storedOptions(rig.window),
+             QStringList({"policies 4355", "password \"\"", "lock 1", "zone 7200",
+                          "start 2024-05-16T08:00:00Z", "stop 2024-05-20T09:00:00Z"}));
     QCOMPARE(differences(rig, connected()), QString());
 }
 
@@ -144,8 +86,8 @@ void TestMainWindowExtendedRead::fillsTheOptionsAnew()
     settings.startDate = 0;
     settings.stopDate = 0;
     rig.press("buttonRead");
-    QCOMPARE(storedOptions(rig), QStringList({"policies 65535", "password \"known\"", "lock 0", "zone -12600",
-                                              "start off", "stop off"}));
+    QCOMPARE(storedOptions(rig.window), QStringList({"policies 65535", "password \"known\"", "lock 0",
+                                                     "zone -12600", "start off", "stop off"}));
     QCOMPARE(differences(rig, idle(QStringLiteral("Read successful"), false)), QString());
 }
 
@@ -183,86 +125,6 @@ void TestMainWindowExtendedRead::showsTheZone()
     rig.unplugAll();
     rig.plugAndConnect(basicLogger());
     QCOMPARE(visibleLabels(rig, zoneLabels), QStringList());
-    QCOMPARE(differences(rig, connected()), QString());
-}
-
-void TestMainWindowExtendedRead::showsLastReset_data()
-{
-    QTest::addColumn<bool>("multiuse");
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<bool>("shown");
-    QTest::newRow("known") << true << QByteArray("1714557600\r\n") << true;
-    QTest::newRow("never") << true << QByteArray("0\r\n") << false;
-    QTest::newRow("a text") << true << QByteArray("yesterday\r\n") << false;
-    QTest::newRow("silence") << true << QByteArray() << false;
-    QTest::newRow("Single-use") << false << QByteArray("1714557600\r\n") << false;
-}
-
-void TestMainWindowExtendedRead::showsLastReset()
-{
-    QFETCH(const bool, multiuse);
-    QFETCH(const QByteArray, reply);
-    QFETCH(const bool, shown);
-    ProcedureRig rig;
-    rig.plug(secureLogger(multiuse));
-    rig.disturb("z", Fault::Kind::Reply, reply);
-    rig.press("buttonConnect");
-    QCOMPARE(rig.wire(), extendedConnectCommands(multiuse));
-    QCOMPARE(lastReset(rig), shown ? shownLastReset() : QStringList());
-    QCOMPARE(differences(rig, connected()), QString());
-}
-
-void TestMainWindowExtendedRead::hidesLastResetOfTheDeviceBefore()
-{
-    ProcedureRig rig;
-    rig.plugAndConnect(secureLogger());
-    QCOMPARE(lastReset(rig), shownLastReset());
-    QStringList atTheNextStep;
-    rig.atCommand(3, [&] { atTheNextStep = lastReset(rig); });
-    rig.logger->model().settings().lastReset = 0;
-    rig.press("buttonRead");
-    QCOMPARE(atTheNextStep, QStringList());
-    QCOMPARE(lastReset(rig), QStringList());
-    QCOMPARE(differences(rig, idle(QStringLiteral("Read successful"), false)), QString());
-}
-
-void TestMainWindowExtendedRead::showsLowBattery_data()
-{
-    QTest::addColumn<bool>("multiuse");
-    QTest::addColumn<bool>("low");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("Multiuse, low") << true << true << lowBattery + replaceBattery;
-    QTest::newRow("Single-use, low") << false << true << lowBattery + refrainFromUse;
-    QTest::newRow("Multiuse, fine") << true << false << QString();
-    QTest::newRow("Single-use, fine") << false << false << QString();
-}
-
-void TestMainWindowExtendedRead::showsLowBattery()
-{
-    QFETCH(const bool, multiuse);
-    QFETCH(const bool, low);
-    QFETCH(const QString, shown);
-    LoggerModel model = secureLogger(multiuse);
-    model.settings().lowBattery = low;
-    ProcedureRig rig;
-    rig.plugAndConnect(model);
-    QCOMPARE(rig.text("labelLowBattery"), shown);
-    QCOMPARE(differences(rig, connected()), QString());
-}
-
-void TestMainWindowExtendedRead::lowBatteryStaysUntilTheDisconnect()
-{
-    LoggerModel model = secureLogger();
-    model.settings().lowBattery = true;
-    ProcedureRig rig;
-    rig.plugAndConnect(model);
-    rig.logger->model().settings().lowBattery = false;
-    rig.press("buttonRead");
-    QCOMPARE(rig.text("labelLowBattery"), lowBattery + replaceBattery);
-    rig.press("buttonConnect");
-    QCOMPARE(rig.text("labelLowBattery"), QString());
-    rig.press("buttonConnect");
-    QCOMPARE(rig.text("labelLowBattery"), QString());
     QCOMPARE(differences(rig, connected()), QString());
 }
 

@@ -193,14 +193,7 @@ void TestMainWindowOptions::editedOptionsAreWritten()
 {
     ProcedureRig rig;
     rig.plugAndConnect(secureLogger());
-    rig.robot.expectWarning(
-        QStringLiteral("Attention"),
-        QStringLiteral(
-            "<p>Once a device is password protected, it can only be unlocked with the <b>Brumalogger "
-            "Configuration Tool</b>.<br>Ensure that the customer receiving the logger can install and "
-            "use this software before shipping a locked <b>Brumalogger USB</b>.<br>Furthermore, note "
-            "that it is <b>not possible</b> to recover or restore the password of a locked "
-            "device.</p>"));
+    expectPasswordDisclaimer(rig.robot);
     withOptions(rig, [](AdvancedOptionsDialog* dialog) {
         click(dialog, "checkConfigPassw");
         click(dialog, "checkStopUSBAttach");

@@ -1,10 +1,8 @@
 // A read that meets silence or the Cancel button, at every single command, as part of a connect and on its
 // own.
 
-#include "procedurerig.h"
 #include "progresswatch.h"
-#include "windowstate.h"
-#include "windowwords.h"
+#include "readingrig.h"
 
 #include <QProgressDialog>
 #include <QTest>
@@ -17,7 +15,16 @@ namespace {
 constexpr int firstText = 10;
 constexpr int lastText = 13;
 
-/// One row each for a connect and for a read on its own, for the commands @p first to @p last of a read.
+/// A rig with a logger of basic firmware.
+struct BasicReadingRig : ReadingRig
+{
+    explicit BasicReadingRig(bool connecting)
+        : ReadingRig(connecting, basicLogger(), readCommands())
+    {
+    }
+};
+
+/// Rows for the commands @p first to @p last of a read.
 void addRows(int first, int last)
 {
     for (int command = first; command <= last; ++command) {
@@ -32,48 +39,6 @@ void addColumns()
     QTest::addColumn<int>("command");
     QTest::addColumn<bool>("connecting");
 }
-
-/// A rig just before the press of Connect or Read, with its record counting the commands of what follows.
-struct ReadingRig : ProcedureRig
-{
-    explicit ReadingRig(bool connecting)
-        : connecting(connecting)
-    {
-        plug();
-        if (connecting)
-            return;
-        press("buttonConnect");
-        logger->clearExchanges();
-        takeStatusLog();
-    }
-
-    /// The number on the wire of a command of the read.
-    int number(int command) const { return connecting ? command + 1 : command; }
-    void run() { press(connecting ? "buttonConnect" : "buttonRead"); }
-    QList<QByteArray> commandsUpTo(int command) const
-    {
-        return firstOf(connecting ? connectCommands() : readCommands(), number(command));
-    }
-    /// What a read sends that ends at @p command: every ending looks whether the device is valid.
-    QList<QByteArray> commandsOfReadEndingAt(int command) const { return commandsUpTo(command) << "m"; }
-    /// What the status bar shows of a read that ends in @p ending and a disconnect.
-    QStringList statusesOfLostRead(const QString& ending) const
-    {
-        QStringList read{QStringLiteral("Reading from device on ttyACM0"), ending,
-                         QStringLiteral("Disconnected from ttyACM0")};
-        if (!connecting)
-            return read;
-        return QStringList{QStringLiteral("Connecting to device... ")} + read +
-               QStringList{QStringLiteral("Connected to device on ttyACM0")};
-    }
-    WindowState lostState() const { return connecting ? mixed() : disconnected(); }
-    WindowState readState() const
-    {
-        return connecting ? connected() : idle(QStringLiteral("Read successful"), false);
-    }
-
-    bool connecting;
-};
 
 /// The panels after a read that lost the texts from the command @p command on.
 QStringList panelsWithoutTexts(int command)
@@ -114,12 +79,9 @@ void TestMainWindowReadFailures::failsAtSilence()
 {
     QFETCH(const int, command);
     QFETCH(const bool, connecting);
-    ReadingRig rig(connecting);
+    BasicReadingRig rig(connecting);
     rig.disturb(rig.number(command), Fault::Kind::Silence);
-    if (connecting)
-        expectConnectFailed(rig.robot);
-    else
-        expectReadFailed(rig.robot);
+    rig.expectFailure();
     rig.run();
     QCOMPARE(rig.wire(), rig.commandsOfReadEndingAt(command));
     QCOMPARE(panels(rig), emptyPanels());
@@ -137,7 +99,7 @@ void TestMainWindowReadFailures::doesWithoutSilentTexts()
 {
     QFETCH(const int, command);
     QFETCH(const bool, connecting);
-    ReadingRig rig(connecting);
+    BasicReadingRig rig(connecting);
     rig.disturb(rig.number(command), Fault::Kind::Silence);
     rig.run();
     QCOMPARE(rig.wire(), rig.commandsUpTo(command) << "G3"
@@ -157,7 +119,7 @@ void TestMainWindowReadFailures::stopsAtCancel()
 {
     QFETCH(const int, command);
     QFETCH(const bool, connecting);
-    ReadingRig rig(connecting);
+    BasicReadingRig rig(connecting);
     rig.atCommand(rig.number(command), [&rig] { rig.pressCancel(); });
     rig.run();
     const bool isText = command >= firstText && command <= lastText;
@@ -178,7 +140,7 @@ void TestMainWindowReadFailures::cancelsBy_data()
 void TestMainWindowReadFailures::cancelsBy()
 {
     QFETCH(const bool, byKey);
-    ReadingRig rig(false);
+    BasicReadingRig rig(false);
     rig.atCommand(5, [&rig, byKey] {
         if (byKey)
             QTest::keyClick(rig.progressDialog(), Qt::Key_Escape);
@@ -212,7 +174,7 @@ void TestMainWindowReadFailures::movesBarUpToFailure()
 {
     QFETCH(const int, command);
     QFETCH(const bool, cancelled);
-    ReadingRig rig(false);
+    BasicReadingRig rig(false);
     if (cancelled) {
         rig.atCommand(command, [&rig] { rig.pressCancel(); });
     } else {
@@ -228,7 +190,7 @@ void TestMainWindowReadFailures::movesBarUpToFailure()
 
 void TestMainWindowReadFailures::connectsAnewAfterFailedRead()
 {
-    ReadingRig rig(false);
+    BasicReadingRig rig(false);
     rig.disturb(6, Fault::Kind::Silence);
     expectReadFailed(rig.robot);
     rig.run();

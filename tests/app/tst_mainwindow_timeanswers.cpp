@@ -14,28 +14,10 @@ using namespace WindowWords;
 namespace {
 
 /// The answer is due at the n-th command of what follows.
-struct AnsweredRig
+void answerAt(WaitingRig& waiting, int command)
 {
-    AnsweredRig()
-        : rig(timeSettings())
-    {
-        servers.answer(NtpAnswer::currentTime().later());
-        if (!QTest::qWaitFor([this] { return servers.requests() > 0; }))
-            qFatal("nobody asks for the time");
-    }
-
-    void answerAt(int command)
-    {
-        rig.atCommand(command, [this] {
-            servers.release();
-            came = rig.comesTo(fetchedServer);
-        });
-    }
-
-    Servers servers;
-    TimeRig rig;
-    bool came = false;
-};
+    waiting.rig.atCommand(command, [&waiting] { waiting.tellTimeUntil(fetchedServer); });
+}
 
 } // namespace
 
@@ -57,13 +39,13 @@ private slots:
 void TestMainWindowTimeAnswers::duringConnect()
 {
     QFETCH(const int, command);
-    AnsweredRig answered;
-    TimeRig& rig = answered.rig;
+    WaitingRig waiting;
+    TimeRig& rig = waiting.rig;
     const UnlockHand hand(rig, {rightPassword});
     rig.plug(lockedLogger());
-    answered.answerAt(command);
+    answerAt(waiting, command);
     rig.press("buttonConnect");
-    QVERIFY(answered.came);
+    QVERIFY(waiting.told);
     QCOMPARE(rig.wire(), lockedConnectCommands());
     QCOMPARE(differences(rig, connected()), QString());
 }
@@ -71,12 +53,12 @@ void TestMainWindowTimeAnswers::duringConnect()
 void TestMainWindowTimeAnswers::duringRead()
 {
     QFETCH(const int, command);
-    AnsweredRig answered;
-    TimeRig& rig = answered.rig;
+    WaitingRig waiting;
+    TimeRig& rig = waiting.rig;
     rig.plugAndConnect(secureLogger());
-    answered.answerAt(command);
+    answerAt(waiting, command);
     rig.press("buttonRead");
-    QVERIFY(answered.came);
+    QVERIFY(waiting.told);
     QCOMPARE(rig.wire(), extendedReadCommands());
     const bool atTheEnd = command == extendedReadCommands().size();
     QCOMPARE(differences(rig, idle(atTheEnd ? fetchedServer : QStringLiteral("Read successful"), false)),
@@ -87,12 +69,12 @@ void TestMainWindowTimeAnswers::duringRead()
 void TestMainWindowTimeAnswers::duringWrite()
 {
     QFETCH(const int, command);
-    AnsweredRig answered;
-    TimeRig& rig = answered.rig;
+    WaitingRig waiting;
+    TimeRig& rig = waiting.rig;
     rig.plugAndConnect(secureLogger());
-    answered.answerAt(command);
+    answerAt(waiting, command);
     rig.press("buttonWrite");
-    QVERIFY(answered.came);
+    QVERIFY(waiting.told);
     QList<QByteArray> expected = extendedWriteCommands();
     if (command == 1) {
         expected.insert(1, "Sz00007200");
@@ -106,13 +88,13 @@ void TestMainWindowTimeAnswers::duringWrite()
 void TestMainWindowTimeAnswers::duringStart()
 {
     QFETCH(const int, command);
-    AnsweredRig answered;
-    TimeRig& rig = answered.rig;
+    WaitingRig waiting;
+    TimeRig& rig = waiting.rig;
     rig.plugAndConnect(secureLogger());
     expectStartConfirm(rig.robot, Yes);
-    answered.answerAt(command);
+    answerAt(waiting, command);
     rig.press("buttonStart");
-    QVERIFY(answered.came);
+    QVERIFY(waiting.told);
     QCOMPARE(rig.wire(), QList<QByteArray>({"Go", "a"}));
     QCOMPARE(differences(rig, disconnected()), QString());
 }

@@ -29,29 +29,14 @@ const QStringList found{"Invalid device detected.", "Disconnected from ttyACM0"}
 
 /// A logger is connected, and the answer of the time server is still to come: it will tell a time three days
 /// ahead, which no Single-use logger's clock shows.
-struct WaitingRig
+struct DoubtfulRig : WaitingRig
 {
-    explicit WaitingRig(const LoggerModel& model)
-        : rig(timeSettings())
+    explicit DoubtfulRig(const LoggerModel& model)
+        : WaitingRig(Q_INT64_C(3) * 86400 * 1000)
     {
-        constexpr qint64 threeDays = Q_INT64_C(3) * 86400 * 1000;
-        servers.answer(NtpAnswer::currentTime(threeDays).later());
         rig.plugAndConnect(model);
-        if (!QTest::qWaitFor([this] { return servers.requests() > 0; }))
-            qFatal("nobody asks for the time");
         rig.takeStatusLog();
     }
-
-    /// Tells the time, and waits for what comes of it.
-    void tellTimeUntil(const QString& status)
-    {
-        servers.release();
-        told = rig.comesTo(status);
-    }
-
-    Servers servers;
-    TimeRig rig;
-    bool told = false;
 };
 
 } // namespace
@@ -150,7 +135,7 @@ void TestMainWindowValidity::judgesClockByReferenceTime()
 {
     QFETCH(const LoggerModel, model);
     QFETCH(const bool, valid);
-    WaitingRig waiting(model);
+    DoubtfulRig waiting(model);
     TimeRig& rig = waiting.rig;
     if (!valid)
         expectInvalidDevice(rig.robot);
@@ -164,7 +149,7 @@ void TestMainWindowValidity::judgesClockByReferenceTime()
 
 void TestMainWindowValidity::silenceIsTakenAsInvalid()
 {
-    WaitingRig waiting(secureLogger());
+    DoubtfulRig waiting(secureLogger());
     TimeRig& rig = waiting.rig;
     rig.disturb("m", Fault::Kind::Silence);
     expectInvalidDevice(rig.robot);
@@ -183,7 +168,7 @@ void TestMainWindowValidity::asksBeforeItLosesChanges_data()
 void TestMainWindowValidity::asksBeforeItLosesChanges()
 {
     QFETCH(const bool, leaving);
-    WaitingRig waiting(basicLogger());
+    DoubtfulRig waiting(basicLogger());
     TimeRig& rig = waiting.rig;
     rig.type("lineInfo", QStringLiteral("Batch 8"));
     expectInvalidDevice(rig.robot);
@@ -199,7 +184,7 @@ void TestMainWindowValidity::asksBeforeItLosesChanges()
 // The question was answered with Yes, but there is nothing left to start.
 void TestMainWindowValidity::startIsCalledOff()
 {
-    WaitingRig waiting(secureLogger(false));
+    DoubtfulRig waiting(secureLogger(false));
     TimeRig& rig = waiting.rig;
     connect(&rig.robot, &DialogRobot::sBoxOpened, this, [&](const QString& title) {
         if (title == QStringLiteral("Confirm"))
@@ -215,7 +200,7 @@ void TestMainWindowValidity::startIsCalledOff()
 
 void TestMainWindowValidity::optionsAreClosed()
 {
-    WaitingRig waiting(secureLogger(false));
+    DoubtfulRig waiting(secureLogger(false));
     TimeRig& rig = waiting.rig;
     expectInvalidDevice(rig.robot);
     QTimer::singleShot(0, options(rig), [&] { waiting.tellTimeUntil(found.last()); });
@@ -227,7 +212,7 @@ void TestMainWindowValidity::optionsAreClosed()
 
 void TestMainWindowValidity::noDeviceIsNotJudged()
 {
-    WaitingRig waiting(basicLogger());
+    DoubtfulRig waiting(basicLogger());
     TimeRig& rig = waiting.rig;
     rig.press("buttonConnect");
     rig.takeStatusLog();

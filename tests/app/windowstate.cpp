@@ -207,6 +207,16 @@ QString closedWindowRemains(const WindowRig& rig)
     return left.join(QLatin1Char('\n'));
 }
 
+QStringList visibleLabels(const WindowRig& rig, const QList<const char*>& names)
+{
+    QStringList shown;
+    for (const char* name : names) {
+        if (rig.find<QWidget>(name)->isVisible())
+            shown << QStringLiteral("%1 = %2").arg(QLatin1String(name), rig.text(name));
+    }
+    return shown;
+}
+
 QStringList panels(const WindowRig& rig)
 {
     QStringList lines;

@@ -50,6 +50,9 @@ int iconDistance(const QAbstractButton& button, const QString& imagePath);
 constexpr int largestIconDistance = 25;
 constexpr int farthestIconDistance = 255;
 
+/// "object = what it shows" for those of the labels @p names that are on show.
+QStringList visibleLabels(const WindowRig& rig, const QList<const char*>& names);
+
 /// "object = what it shows" for the panels' labels, text lines and lists.
 QStringList panels(const WindowRig& rig);
 /// The panels after a read of basicLogger().

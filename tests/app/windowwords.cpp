@@ -111,6 +111,18 @@ void WindowWords::expectInvalidDates(DialogRobot& robot)
             "with the <b>Write</b> operation.</p>"));
 }
 
+void WindowWords::expectPasswordDisclaimer(DialogRobot& robot)
+{
+    robot.expectWarning(
+        QStringLiteral("Attention"),
+        QStringLiteral(
+            "<p>Once a device is password protected, it can only be unlocked with the <b>Brumalogger "
+            "Configuration Tool</b>.<br>Ensure that the customer receiving the logger can install and "
+            "use this software before shipping a locked <b>Brumalogger USB</b>.<br>Furthermore, note "
+            "that it is <b>not possible</b> to recover or restore the password of a locked "
+            "device.</p>"));
+}
+
 void WindowWords::expectStartModified(DialogRobot& robot, QMessageBox::StandardButton answer)
 {
     robot.expectQuestion(QStringLiteral("Starting logger"),

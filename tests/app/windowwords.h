@@ -29,6 +29,8 @@ void expectWriteFailed(DialogRobot& robot);
 void expectWriteCanceled(DialogRobot& robot);
 
 void expectInvalidDates(DialogRobot& robot);
+/// Of the advanced options, whenever a password is demanded.
+void expectPasswordDisclaimer(DialogRobot& robot);
 
 void expectStartModified(DialogRobot& robot, QMessageBox::StandardButton answer);
 void expectStartConfirm(DialogRobot& robot, QMessageBox::StandardButton answer);

@@ -2,6 +2,8 @@
 
 #include "securewalk.h"
 
+#include "app/extendedrig.h"
+#include "app/windowwords.h"
 #include "dialogs/advancedoptionsdialog.h"
 #include "dialogs/passworddialog.h"
 #include "support/nextchance.h"
@@ -23,7 +25,6 @@
 namespace {
 
 constexpr int edge = 8; // pixels
-const QString password = QStringLiteral("Secret");
 const QString newPassword = QStringLiteral("Open 4 Me");
 
 /// At its left edge: a wide check box with a short text doesn't hear a click in its middle.
@@ -68,7 +69,7 @@ bool SecureWalk::unlock()
         typeOver(line, QStringLiteral("secret"));
         takePicture(*dialog, QStringLiteral("locked"));
         QTest::keyClick(line, Qt::Key_Return);
-        typeOver(line, password);
+        typeOver(line, rightPassword);
         QTest::keyClick(line, Qt::Key_Return);
     });
     look.start(1);
@@ -80,14 +81,7 @@ bool SecureWalk::editOptions()
 {
     auto* dialog = window.findChild<AdvancedOptionsDialog*>();
     atNextChance(dialog, [this, dialog] { edit(dialog); });
-    robot.expectWarning(
-        QStringLiteral("Attention"),
-        QStringLiteral(
-            "<p>Once a device is password protected, it can only be unlocked with the <b>Brumalogger "
-            "Configuration Tool</b>.<br>Ensure that the customer receiving the logger can install and "
-            "use this software before shipping a locked <b>Brumalogger USB</b>.<br>Furthermore, note "
-            "that it is <b>not possible</b> to recover or restore the password of a locked "
-            "device.</p>"));
+    WindowWords::expectPasswordDisclaimer(robot);
     press("buttonAdvanced");
     return !dialog->isVisible() && robot.problems().isEmpty();
 }
@@ -151,17 +145,5 @@ QStringList SecureWalk::fields() const
     for (const char* box : {"spindTempMin", "spindTempMax", "spinSampling", "spinDelay"})
         all << QStringLiteral("%1: %2").arg(QLatin1String(box), find<QAbstractSpinBox>(box)->text());
 
-    const auto* store = window.findChild<AdvancedOptionsDialog*>();
-    bool startEnabled = false;
-    bool stopEnabled = false;
-    QDateTime startDate;
-    QDateTime stopDate;
-    store->lStartDate(&startEnabled, &startDate);
-    store->lStopDate(&stopEnabled, &stopDate);
-    return all
-           << QStringLiteral("policies: 0x%1").arg(store->lPolicies(), 4, 16, QLatin1Char('0'))
-           << QStringLiteral("button lock: %1").arg(store->lButtonLock())
-           << QStringLiteral("zone: %1 s").arg(store->lTimeZoneOffset())
-           << QStringLiteral("start: %1 %2").arg(startEnabled).arg(startDate.toUTC().toString(Qt::ISODate))
-           << QStringLiteral("stop: %1 %2").arg(stopEnabled).arg(stopDate.toUTC().toString(Qt::ISODate));
+    return all + storedOptions(window);
 }
