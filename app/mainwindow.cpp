@@ -8,6 +8,7 @@
 #include "dialogs/advancedoptionsdialog.h"
 #include "dialogs/passworddialog.h"
 #include "dialogs/settingsdialog.h"
+#include "dialogs/timezonedialog.h"
 #include "presets/presetstorage.h"
 #include "time/timemanager.h"
 #include "ui_mainwindow.h"
@@ -44,6 +45,14 @@ constexpr MainButton mainButtons[] = {
      QT_TRANSLATE_NOOP("MainWindow", "Load default preset (%1)")},
 };
 
+void rejectVisible(std::initializer_list<QDialog*> dialogs)
+{
+    for (QDialog* dialog : dialogs) {
+        if (dialog && dialog->isVisible())
+            dialog->reject();
+    }
+}
+
 /// Gives @p button a keyboard shortcut, and returns its text for a tool tip.
 QString addShortcut(QPushButton* button, const char* keys)
 {
@@ -61,10 +70,12 @@ MainWindow::MainWindow(QWidget* parent)
     , settingsDialog(new SettingsDialog(this))
     , presetStorage(new PresetStorage(this))
     , timeManager(new TimeManager(nullptr))
+    , timeZoneDialog(new TimeZoneDialog(this))
     , passwordDialog(new PasswordDialog(this))
     , advancedOptionsDialog(new AdvancedOptionsDialog(this))
 {
     Q_INIT_RESOURCE(images);
+    Q_INIT_RESOURCE(pages);
     ui->setupUi(this);
     plFillLists();
     defaultTimeZoneName = timeManager->timeZones().constFirst().name;
@@ -78,6 +89,7 @@ MainWindow::MainWindow(QWidget* parent)
     plSetUpButtons();
     ui->buttonAdvanced->hide();
     passwordDialog->lSetDevice(device);
+    timeZoneDialog->setTimeManager(timeManager);
     settingsDialog->loadSettings();
     plSettingsAccepted();
     const QSize savedSize = settingsDialog->savedWindowSize();
@@ -103,6 +115,7 @@ void MainWindow::plConnectSignals()
     connect(&timeKeeper, &TimeKeeper::sUpdate, this, &MainWindow::plUpdateDateTime);
     plConnectChanges();
     plConnectCounters();
+    connect(ui->buttonToolTimeZone, &QToolButton::clicked, this, &MainWindow::plProcessTimeZoneDialog);
     connect(ui->buttonStart, &QPushButton::clicked, this, &MainWindow::plStartLogger);
     connect(ui->buttonConnect, &QPushButton::clicked, this, &MainWindow::plConnect);
     connect(ui->buttonRead, &QPushButton::clicked, this, &MainWindow::plReadFromDevice);
@@ -182,11 +195,13 @@ void MainWindow::closeEvent(QCloseEvent* event)
 // None of them outlives the window or its device on the screen.
 void MainWindow::plRejectDialogs()
 {
-    for (QDialog* dialog : std::initializer_list<QDialog*>{settingsDialog.data(), passwordDialog.data(),
-                                                           advancedOptionsDialog.data()}) {
-        if (dialog->isVisible())
-            dialog->reject();
-    }
+    rejectVisible({settingsDialog.data(), passwordDialog.data()});
+    plRejectDeviceDialogs();
+}
+
+void MainWindow::plRejectDeviceDialogs()
+{
+    rejectVisible({advancedOptionsDialog.data(), timeZoneDialog.data(), disclaimer});
 }
 
 void MainWindow::plDisableControls(bool disabled)

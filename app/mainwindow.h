@@ -16,12 +16,14 @@ class BrumaloggerInterface;
 class PasswordDialog;
 class PresetStorage;
 class QComboBox;
+class QDialog;
 class QLabel;
 class QLineEdit;
 class QSpinBox;
 class SettingsDialog;
 class StepProgress;
 class TimeManager;
+class TimeZoneDialog;
 enum class StepResult;
 
 namespace Ui {
@@ -72,6 +74,9 @@ private slots:
     // mainwindow_setup.cpp
     void plValidateTempRange();
 
+    // mainwindow_zone.cpp
+    void plProcessTimeZoneDialog();
+
     // mainwindow_extended.cpp
     void plProcessAdvancedOptionsDialog();
 
@@ -111,6 +116,8 @@ private:
     void plConnectServices();
     void plSetUpButtons();
     void plRejectDialogs();
+    /// Those that work on the connected device.
+    void plRejectDeviceDialogs();
     void plDisableControls(bool disabled);
     /// A question with Yes and No.
     QMessageBox::StandardButton plAsk(const QString& title, const QString& text);
@@ -196,11 +203,21 @@ private:
     /// Policies, automatic dates and password, with the bar running on from @p firstValue.
     [[nodiscard]] StepResult plWriteOptions(StepProgress& progress, int firstValue);
 
+    // mainwindow_zone.cpp
+    /// True if the user accepted a zone for the device that is still there.
+    bool plChooseTimeZone();
+    /// Also true if there is nothing to show.
+    bool plShowDisclaimer();
+    void plWarnOfDatesInOtherZone();
+    /// The window is open and the device in use, which a dialog's event loop may have changed.
+    bool plDeviceStays() const;
+
     Ui::MainWindow* ui;
     QSharedPointer<BrumaloggerInterface> device;
     QSharedPointer<SettingsDialog> settingsDialog;
     QSharedPointer<PresetStorage> presetStorage; ///< for all presets
     QSharedPointer<TimeManager> timeManager;
+    QSharedPointer<TimeZoneDialog> timeZoneDialog;
     QSharedPointer<PasswordDialog> passwordDialog;
     QSharedPointer<AdvancedOptionsDialog> advancedOptionsDialog; ///< also keeps what it shows
     const QString dateTimeDisplayFormat = QStringLiteral("hh:mm:ss dd/MMM/yyyy");
@@ -219,8 +236,10 @@ private:
     QList<QPair<float, float>> tempRanges;
     QList<int> sampleTimes;
     bool modified = false;
-    /// Connect, read, write, start or the advanced options; a click that arrives meanwhile is not obeyed.
+    /// Connect, read, write, start, the advanced options or the time zone; a click that arrives meanwhile is
+    /// not obeyed.
     bool procedureRuns = false;
+    QDialog* disclaimer = nullptr; ///< while it is open
     bool shownBefore = false;
     bool closed = false; ///< a procedure may still be under way then
 };

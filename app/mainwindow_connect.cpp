@@ -4,7 +4,6 @@
 
 #include "app/buttonicon.h"
 #include "device/brumaloggerinterface.h"
-#include "dialogs/advancedoptionsdialog.h"
 #include "ui_mainwindow.h"
 
 #include <QScopedValueRollback>
@@ -80,9 +79,8 @@ void MainWindow::plOnInvalidDevice()
     ui->statusBar->showMessage(tr("Invalid device detected."));
     plWarn(tr("Warning"),
            tr("This device is in an invalid state.\nNo connection can be established. Aborting."));
-    // The reference time may have come while the options of this very device were open.
-    if (advancedOptionsDialog->isVisible())
-        advancedOptionsDialog->reject();
+    // The reference time may have come while the options or the zone of this very device were open.
+    plRejectDeviceDialogs();
     plLeaveDevice();
 }
 

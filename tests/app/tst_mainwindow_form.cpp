@@ -271,6 +271,7 @@ void TestMainWindowForm::slotsInOrder()
                               "plUpdateStartDelay()",
                               "plUpdateDateTime()",
                               "plValidateTempRange()",
+                              "plProcessTimeZoneDialog()",
                               "plProcessAdvancedOptionsDialog()",
                               "plProcessCustomLabelMenu(QLabel*)",
                               "plChangesOcurred(bool)",
