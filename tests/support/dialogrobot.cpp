@@ -36,6 +36,11 @@ void DialogRobot::expectInformation(const QString& title, const QString& text)
     expect({QMessageBox::Information, title, text, QMessageBox::Ok}, QMessageBox::Ok);
 }
 
+void DialogRobot::expectChoice(const QString& title, const QString& text, QMessageBox::StandardButton answer)
+{
+    expect({QMessageBox::Warning, title, text, QMessageBox::Ok | QMessageBox::Cancel}, answer);
+}
+
 void DialogRobot::expectQuestion(const QString& title, const QString& text,
                                  QMessageBox::StandardButton answer)
 {

@@ -27,6 +27,8 @@ public:
     /// The next boxes, in the order of the calls.
     void expectWarning(const QString& title, const QString& text);
     void expectInformation(const QString& title, const QString& text);
+    /// A warning that can be cancelled.
+    void expectChoice(const QString& title, const QString& text, QMessageBox::StandardButton answer);
     void expectQuestion(const QString& title, const QString& text, QMessageBox::StandardButton answer);
 
     /// Every box that was opened so far.
