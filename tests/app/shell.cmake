@@ -24,6 +24,13 @@ foreach(concern validity timesync timeanswers)
     MOCK NETWORK
   )
 endforeach()
+foreach(concern zoneeditor zoneeditordates zoneeditordisclaimer zoneeditorinterruptions zoneeditorwrites)
+  brumalogger_add_test(tst_mainwindow_${concern}
+    SOURCES timerig.cpp timerig.h tst_mainwindow_${concern}.cpp zonerig.cpp zonerig.h
+    LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time
+    MOCK NETWORK
+  )
+endforeach()
 brumalogger_add_test(tst_mainwindow_servers SOURCES tst_mainwindow_servers.cpp
   LINK brumalogger_proceduretests
   MOCK TIME_SERVERS
