@@ -6,6 +6,7 @@
 #include "ui_timezonedialog.h"
 
 #include <QDebug>
+#include <QLayout>
 #include <QMessageBox>
 
 #include <utility>
@@ -84,9 +85,17 @@ void TimeZoneDialog::showEvent(QShowEvent* event)
         plGuessComputerZone();
         plGuessDeviceZone();
         plOnComboChange(ui->comboTimezone->currentIndex());
-        adjustSize();
+        plFitSize();
     }
     QDialog::showEvent(event);
+}
+
+// The groups have not told the dialog's layout yet that their labels changed.
+void TimeZoneDialog::plFitSize()
+{
+    layout()->invalidate();
+    layout()->activate();
+    adjustSize();
 }
 
 // Named even if its last query failed.

@@ -54,6 +54,7 @@ private:
     void plShowSource();
     void plGuessComputerZone();
     void plGuessDeviceZone();
+    void plFitSize();
     bool plConfirm();
     TimeZoneMatch plChosenZone() const;
 

@@ -55,6 +55,7 @@ private slots:
 void TestMainWindowZoneEditor::olderLoggerTakesZone()
 {
     ZoneRig zones(olderLogger());
+    zones.fetchTime();
     zones.change(QStringLiteral("GMT+9:30"));
     QCOMPARE(zones.choice(),
              QStringList({"zone = GMT+9:30, label, button", "clock = font: bold",
@@ -69,6 +70,7 @@ void TestMainWindowZoneEditor::olderLoggerTakesZone()
 void TestMainWindowZoneEditor::newerLoggerTakesZone()
 {
     ZoneRig zones(newerLogger());
+    zones.fetchTime();
     zones.change(QStringLiteral("GMT-3:30"));
     QCOMPARE(zones.choice(), QStringList({"zone = GMT-3:30, label, button", "clock = font: bold",
                                           "information = Batch 7", "offset = -12600", "modified = 1"}));

@@ -25,7 +25,6 @@ struct InterruptedRig
     InterruptedRig(const LoggerModel& model, int place)
         : zones(model)
         , place(place)
-        , before(zones.choice())
     {
         if (place == DatesWarning)
             options(zones.rig)->lSetStartDate(true, QDateTime(QDate(2024, 5, 16), QTime(8, 0), Qt::UTC));
@@ -40,9 +39,13 @@ struct InterruptedRig
                 interruptions++;
             }
         };
-        zones.hand.atDisclaimer([interrupt](QDialog*) { interrupt(Disclaimer); });
-        zones.hand.atEditor([interrupt](QDialog* editor) {
+        zones.hand.atDisclaimer([this, interrupt](QDialog* dialog) {
+            interrupt(Disclaimer);
+            stayedOpen = dialog->isVisible();
+        });
+        zones.hand.atEditor([this, interrupt](QDialog* editor) {
             interrupt(Editor);
+            stayedOpen = editor->isVisible();
             if (!editor->isVisible())
                 return;
             ZoneRig::choose(editor, zone);
@@ -70,8 +73,8 @@ struct InterruptedRig
 
     ZoneRig zones;
     int place;
-    QStringList before;
     int interruptions = 0;
+    bool stayedOpen = false; ///< the last dialog, whether it was interrupted or not
 };
 
 void addPlaceRows(bool older)
@@ -112,6 +115,7 @@ private slots:
     void timeComes();
     void deviceIsInvalid_data() { addPlaceRows(true); }
     void deviceIsInvalid();
+    void acceptedWhileTheDeviceIsJudged();
     void plugIsPulled();
     void nextLoggerStartsAnew();
 };
@@ -125,10 +129,11 @@ void TestMainWindowZoneEditorInterruptions::windowIsClosed()
     interrupted.expectBoxesFrom(Confirmation, place);
     interrupted.run([&zones] { zones.rig.window.close(); });
     QCOMPARE(interrupted.interruptions, 1);
+    QCOMPARE(interrupted.stayedOpen, place > Editor);
     QCOMPARE(closedWindowRemains(zones.rig), QString());
     QCOMPARE(options(zones.rig)->lTimeZoneOffset(), older ? 0 : 7200);
     QVERIFY(!zones.rig.isModified());
-    QVERIFY(zones.rig.text("lineInfo") == QStringLiteral("Batch 7"));
+    QCOMPARE(zones.rig.text("lineInfo"), QStringLiteral("Batch 7"));
     QCOMPARE(zones.rig.wire(), QList<QByteArray>());
 }
 
@@ -146,6 +151,7 @@ void TestMainWindowZoneEditorInterruptions::timeComes()
         QVERIFY(QTest::qWaitFor([&zones] { return !zones.rig.wire().isEmpty(); }));
     });
     QCOMPARE(interrupted.interruptions, 1);
+    QVERIFY(interrupted.stayedOpen);
     QCOMPARE(zones.rig.wire(), QList<QByteArray>({"m"}));
     QCOMPARE(zones.rig.text("labelTimeZone"), zone);
     QVERIFY(qAbs(QDateTime::currentDateTimeUtc().addSecs((5 + 9) * 3600).secsTo(zones.shownTime())) <= 2);
@@ -169,10 +175,29 @@ void TestMainWindowZoneEditorInterruptions::deviceIsInvalid()
         expectConfirmation(zones.rig.robot);
     interrupted.run([&zones] { zones.releaseUntil(QStringLiteral("Disconnected from ttyACM0")); });
     QCOMPARE(interrupted.interruptions, 1);
+    QCOMPARE(interrupted.stayedOpen, place > Editor);
     QCOMPARE(zones.rig.wire(), QList<QByteArray>({"m"}));
     QCOMPARE(options(zones.rig)->lTimeZoneOffset(), older ? 0 : 7200);
     QCOMPARE(panels(zones.rig), emptyPanels());
     QCOMPARE(QApplication::activeModalWidget(), nullptr);
+    QCOMPARE(differences(zones.rig, disconnected()), QString());
+}
+
+// The operator is quicker than the device's answer, and is told of no dates.
+void TestMainWindowZoneEditorInterruptions::acceptedWhileTheDeviceIsJudged()
+{
+    ZoneRig zones(singleUse(newerLogger()));
+    options(zones.rig)->lSetStartDate(true, QDateTime(QDate(2024, 5, 16), QTime(8, 0), Qt::UTC));
+    zones.askAgain(threeDays);
+    zones.hand.atEditor([&zones](QDialog* editor) {
+        ZoneRig::choose(editor, zone);
+        zones.rig.atCommand(1, [editor] { editor->accept(); });
+        zones.releaseUntil(QStringLiteral("Disconnected from ttyACM0"));
+    });
+    expectConfirmation(zones.rig.robot);
+    expectInvalidDevice(zones.rig.robot);
+    zones.press();
+    QCOMPARE(options(zones.rig)->lTimeZoneOffset(), 7200);
     QCOMPARE(differences(zones.rig, disconnected()), QString());
 }
 

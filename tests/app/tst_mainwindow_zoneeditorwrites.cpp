@@ -27,6 +27,7 @@ struct WrittenRig
     WrittenRig(const LoggerModel& model, const QString& zone)
         : zones(withWrongClock(model), computerBehind)
     {
+        zones.fetchTime(computerBehind);
         zones.change(zone);
         zones.rig.press("buttonWrite");
     }

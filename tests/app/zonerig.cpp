@@ -139,6 +139,14 @@ void ZoneRig::releaseUntil(const QString& status)
         qFatal("the window never said \"%s\"", qPrintable(status));
 }
 
+void ZoneRig::fetchTime(int secondsAhead)
+{
+    askAgain(secondsAhead);
+    releaseUntil(TimeWords::fetchedPool);
+    rig.logger->clearExchanges();
+    rig.takeStatusLog();
+}
+
 QStringList ZoneRig::choice() const
 {
     return {QStringLiteral("zone = %1").arg(rig.zone()),

@@ -77,6 +77,9 @@ public:
     void askAgain(int secondsAhead = 0);
     /// Has them answer, and waits for what the window says then.
     void releaseUntil(const QString& status);
+    /// Both in one. The exchanges of a connect move the computer's clock on faster than the window's clocks
+    /// tick; behind this the reference time is up to date.
+    void fetchTime(int secondsAhead = 0);
 
     /// All in the window that the choice of a zone changes, the clock's figures apart.
     QStringList choice() const;

@@ -22,7 +22,8 @@ private slots:
     void withoutTimeManager();
     void nothingIsCut_data();
     void nothingIsCut();
-    void sizeFollowsTheFont();
+    void comesInItsFinalSize_data();
+    void comesInItsFinalSize();
 };
 
 void TestTimeZoneDialogForm::form()
@@ -143,19 +144,36 @@ void TestTimeZoneDialogForm::nothingIsCut()
     QCOMPARE(cutWidgets(desk.dialog), QStringList());
 }
 
-void TestTimeZoneDialogForm::sizeFollowsTheFont()
+void TestTimeZoneDialogForm::comesInItsFinalSize_data()
 {
+    QTest::addColumn<QList<int>>("fontSizes");
+    QTest::addColumn<QList<int>>("secondsOff");
+    QTest::newRow("smaller font") << QList<int>({20, 8}) << QList<int>({0, 0});
+    QTest::newRow("larger font") << QList<int>({8, 20}) << QList<int>({0, 0});
+    QTest::newRow("fewer words") << QList<int>({11, 11}) << QList<int>({4 * 86400, 0});
+    QTest::newRow("more words") << QList<int>({11, 11}) << QList<int>({0, 4 * 86400});
+}
+
+// It gets onto the screen, and into the middle of its window, with the size of what it shows.
+void TestTimeZoneDialogForm::comesInItsFinalSize()
+{
+    QFETCH(const QList<int>, fontSizes);
+    QFETCH(const QList<int>, secondsOff);
     ZoneDesk desk;
-    QSize large;
-    for (const int size : {20, 8}) {
-        desk.window.setStyleSheet(QStringLiteral("font-size: %1pt").arg(size));
-        desk.open();
+    QList<int> widths;
+    for (const int showing : {0, 1}) {
+        desk.window.setStyleSheet(QStringLiteral("font-size: %1pt").arg(fontSizes[showing]));
+        desk.setDevice(secondsOff[showing]);
+        desk.dialog.open();
+        const QSize first = desk.dialog.size();
+        QVERIFY(QTest::qWaitForWindowExposed(&desk.dialog));
+        QCoreApplication::processEvents();
+        QCOMPARE(desk.dialog.size(), first);
         QCOMPARE(desk.dialog.size(), desk.dialog.sizeHint());
-        if (size == 20)
-            large = desk.dialog.size();
+        widths << first.width();
         desk.dialog.reject();
     }
-    QVERIFY(desk.dialog.width() < large.width() && desk.dialog.height() < large.height());
+    QCOMPARE(widths[1] > widths[0], fontSizes[1] > fontSizes[0] || secondsOff[1] > secondsOff[0]);
 }
 
 QTEST_MAIN(TestTimeZoneDialogForm)
