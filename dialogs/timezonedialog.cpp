@@ -90,9 +90,11 @@ void TimeZoneDialog::showEvent(QShowEvent* event)
     QDialog::showEvent(event);
 }
 
-// The groups have not told the dialog's layout yet that their labels changed.
+// The values of both groups stand in one line. The groups have not told the dialog's layout yet that their
+// labels changed.
 void TimeZoneDialog::plFitSize()
 {
+    ui->gridReference->setColumnMinimumWidth(0, ui->label_8->sizeHint().width());
     layout()->invalidate();
     layout()->activate();
     adjustSize();

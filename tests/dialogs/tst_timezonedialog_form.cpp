@@ -95,6 +95,7 @@ void TestTimeZoneDialogForm::places()
     QTEST(right->parentWidget()->objectName(), "group");
     QVERIFY(left->geometry().right() < right->geometry().left());
     QVERIFY(qAbs(left->geometry().center().y() - right->geometry().center().y()) <= 2);
+    QCOMPARE(right->mapTo(&desk.dialog, QPoint()).x(), desk.combo()->mapTo(&desk.dialog, QPoint()).x());
 }
 
 void TestTimeZoneDialogForm::zonesInTheirOrder()
