@@ -6,7 +6,6 @@
 #include "ui_timezonedialog.h"
 
 #include <QDebug>
-#include <QLayout>
 #include <QMessageBox>
 
 #include <utility>
@@ -95,8 +94,8 @@ void TimeZoneDialog::showEvent(QShowEvent* event)
 void TimeZoneDialog::plFitSize()
 {
     ui->gridReference->setColumnMinimumWidth(0, ui->label_8->sizeHint().width());
-    layout()->invalidate();
-    layout()->activate();
+    for (QWidget* group : {ui->groupBox_2, ui->groupBox_3})
+        group->updateGeometry();
     adjustSize();
 }
 

@@ -115,6 +115,7 @@ private slots:
     void timeComes();
     void deviceIsInvalid_data() { addPlaceRows(true); }
     void deviceIsInvalid();
+    void acceptedWhileTheDeviceIsJudged_data();
     void acceptedWhileTheDeviceIsJudged();
     void plugIsPulled();
     void nextLoggerStartsAnew();
@@ -183,21 +184,33 @@ void TestMainWindowZoneEditorInterruptions::deviceIsInvalid()
     QCOMPARE(differences(zones.rig, disconnected()), QString());
 }
 
-// The operator is quicker than the device's answer, and is told of no dates.
+void TestMainWindowZoneEditorInterruptions::acceptedWhileTheDeviceIsJudged_data()
+{
+    QTest::addColumn<bool>("older");
+    QTest::addColumn<QStringList>("dialogs");
+    QTest::newRow("disclaimer") << true << QStringList({disclaimer});
+    QTest::newRow("editor") << false << QStringList({editor});
+}
+
+// The operator is quicker than the device's answer. Nothing more is opened, and no dates are spoken of.
 void TestMainWindowZoneEditorInterruptions::acceptedWhileTheDeviceIsJudged()
 {
-    ZoneRig zones(singleUse(newerLogger()));
+    QFETCH(const bool, older);
+    ZoneRig zones(singleUse(loggerFor(older)));
     options(zones.rig)->lSetStartDate(true, QDateTime(QDate(2024, 5, 16), QTime(8, 0), Qt::UTC));
     zones.askAgain(threeDays);
-    zones.hand.atEditor([&zones](QDialog* editor) {
-        ZoneRig::choose(editor, zone);
-        zones.rig.atCommand(1, [editor] { editor->accept(); });
+    const auto acceptAtCommand = [&zones](QDialog* dialog) {
+        zones.rig.atCommand(1, [dialog] { dialog->accept(); });
         zones.releaseUntil(QStringLiteral("Disconnected from ttyACM0"));
-    });
-    expectConfirmation(zones.rig.robot);
+    };
+    zones.hand.atDisclaimer(acceptAtCommand);
+    zones.hand.atEditor(acceptAtCommand);
+    if (!older)
+        expectConfirmation(zones.rig.robot);
     expectInvalidDevice(zones.rig.robot);
     zones.press();
-    QCOMPARE(options(zones.rig)->lTimeZoneOffset(), 7200);
+    QTEST(zones.hand.titles(), "dialogs");
+    QCOMPARE(options(zones.rig)->lTimeZoneOffset(), older ? 0 : 7200);
     QCOMPARE(differences(zones.rig, disconnected()), QString());
 }
 
