@@ -7,6 +7,7 @@
 
 #include <QDebug>
 #include <QMessageBox>
+#include <QShowEvent>
 
 #include <utility>
 
@@ -76,10 +77,11 @@ TimeZoneMatch TimeZoneDialog::plChosenZone() const
     return timeManager ? timeManager->timeZones().value(ui->comboTimezone->currentIndex()) : TimeZoneMatch();
 }
 
-// The base class puts the dialog into the middle of its parent, so it has to have its new size by then.
+// The base class puts the dialog into the middle of its parent, so it has to have its new size by then. A
+// window manager that brings a minimised dialog back doesn't open it anew: what was chosen stays.
 void TimeZoneDialog::showEvent(QShowEvent* event)
 {
-    if (timeManager) {
+    if (timeManager && !event->spontaneous()) {
         plShowSource();
         plGuessComputerZone();
         plGuessDeviceZone();

@@ -26,6 +26,7 @@ private slots:
     void devicesZoneIsUnknown_data();
     void devicesZoneIsUnknown();
     void choiceIsForgotten();
+    void choiceOutlivesMinimising();
 };
 
 // Asked or answered, at once or never: whoever is asked last is the source.
@@ -138,6 +139,17 @@ void TestTimeZoneDialogShowing::choiceIsForgotten()
     desk.open();
     QCOMPARE(desk.dialog.chosenName(), QStringLiteral("GMT+1:00"));
     QCOMPARE(desk.text("labelNewDeviceTime"), shown(deskTime().addSecs(3600)));
+}
+
+void TestTimeZoneDialogShowing::choiceOutlivesMinimising()
+{
+    ZoneDesk desk;
+    desk.open();
+    desk.combo()->setCurrentText(QStringLiteral("GMT+9:00"));
+    QShowEvent broughtBack;
+    QSpontaneKeyEvent::setSpontaneous(&broughtBack);
+    QCoreApplication::instance()->notify(&desk.dialog, &broughtBack); // sending it would make it ours
+    QCOMPARE(desk.dialog.chosenName(), QStringLiteral("GMT+9:00"));
 }
 
 QTEST_MAIN(TestTimeZoneDialogShowing)

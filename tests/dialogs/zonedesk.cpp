@@ -62,7 +62,7 @@ QString ZoneDesk::text(const char* name) const
     return find<QWidget>(name)->property("text").toString();
 }
 
-void ZoneDesk::tellTime(const QDateTime& time)
+void ZoneDesk::tellTime(const QDateTime& time) const
 {
     if (!QMetaObject::invokeMethod(manager.data(), "plOnSingleWorkerReply", Q_ARG(QDateTime, time)))
         qFatal("the manager doesn't listen");

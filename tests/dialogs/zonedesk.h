@@ -52,7 +52,7 @@ public:
     QComboBox* combo() const { return find<QComboBox>("comboTimezone"); }
 
     /// A server tells that it is @p time.
-    void tellTime(const QDateTime& time);
+    void tellTime(const QDateTime& time) const;
     /// The logger's clock shows deskTime() and @p seconds.
     void setDevice(int seconds) { dialog.setDeviceTime(deskTime().addSecs(seconds)); }
     /// Shows the dialog without waiting for its end.
