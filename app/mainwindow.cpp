@@ -45,11 +45,19 @@ constexpr MainButton mainButtons[] = {
      QT_TRANSLATE_NOOP("MainWindow", "Load default preset (%1)")},
 };
 
-void rejectVisible(std::initializer_list<QDialog*> dialogs)
+void reject(QDialog* dialog)
+{
+    if (dialog && dialog->isVisible())
+        dialog->reject();
+}
+
+/// Together with what is open above them.
+void rejectAll(std::initializer_list<QDialog*> dialogs)
 {
     for (QDialog* dialog : dialogs) {
-        if (dialog && dialog->isVisible())
-            dialog->reject();
+        for (QDialog* above : dialog ? dialog->findChildren<QDialog*>() : QList<QDialog*>())
+            reject(above);
+        reject(dialog);
     }
 }
 
@@ -195,13 +203,13 @@ void MainWindow::closeEvent(QCloseEvent* event)
 // None of them outlives the window or its device on the screen.
 void MainWindow::plRejectDialogs()
 {
-    rejectVisible({settingsDialog.data(), passwordDialog.data()});
+    rejectAll({settingsDialog.data(), passwordDialog.data()});
     plRejectDeviceDialogs();
 }
 
 void MainWindow::plRejectDeviceDialogs()
 {
-    rejectVisible({advancedOptionsDialog.data(), timeZoneDialog.data(), disclaimer});
+    rejectAll({advancedOptionsDialog.data(), timeZoneDialog.data(), disclaimer});
 }
 
 void MainWindow::plDisableControls(bool disabled)

@@ -25,7 +25,7 @@ bool MainWindow::plOpenLock()
 {
     if (!device->lGetLocked(&deviceLocked))
         return false;
-    if (!deviceLocked)
+    if (!deviceLocked || closed)
         return true;
     passwordDialog->exec();
     // A finished device now offers its reports, and there is nothing to configure.
@@ -95,14 +95,14 @@ StepResult MainWindow::plSynchroniseTime(StepProgress& progress)
 {
     if (!timeManager->isQuerySuccesful() || !settingsDialog->timeEnabled())
         return StepResult::Done;
-    const QDateTime shown = timeKeeper.timeUtc();
     if (!device->lIsExtendedFirmware())
-        return progress.judge(device->lSetDateTime(shown));
+        return progress.judge(device->lSetDateTime(timeKeeper.timeUtc()));
 
     // The window shows the figures on the device's clock; the device takes true time and its zone apart. Cut
     // off between the two it would show a wrong time, so a cancel here is a failure.
     const int offset = advancedOptionsDialog->lTimeZoneOffset();
-    const bool taken = device->lSetTimeZoneOffset(offset) && device->lSetDateTime(shown.addSecs(-offset));
+    const bool taken =
+        device->lSetTimeZoneOffset(offset) && device->lSetDateTime(timeKeeper.timeUtc().addSecs(-offset));
     return progress.judge(taken) == StepResult::Done ? StepResult::Done : StepResult::Failed;
 }
 
@@ -139,7 +139,8 @@ void MainWindow::plProcessAdvancedOptionsDialog()
     advancedOptionsDialog->lSetTimeZoneOffset(zone.offset);
     advancedOptionsDialog->lSetButtonLock(ui->checkLock->isChecked());
     advancedOptionsDialog->lSetFirmwareCode(device->lFirmwareCode());
-    if (advancedOptionsDialog->exec() != QDialog::Accepted)
+    // The device may have been found invalid meanwhile.
+    if (advancedOptionsDialog->exec() != QDialog::Accepted || !device->lIsConnected())
         return;
     plChangesOcurred(true);
     ui->checkLock->setChecked(advancedOptionsDialog->lButtonLock());

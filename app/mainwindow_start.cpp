@@ -18,7 +18,7 @@ void MainWindow::plStartLogger()
     if (plAsk(tr("Confirm"), tr("Do you wish to start the device?\nThis operation cannot be undone.")) !=
         QMessageBox::Yes)
         return;
-    if (!device->lIsConnected()) // found invalid while the questions were open
+    if (controlsDisabled) // the device was found invalid while the questions were open
         return;
     if (!plMayStart()) {
         plWarn(tr("Software START is disabled"), tr("Software START is disabled on this logger."));

@@ -32,7 +32,10 @@ void AdvancedOptionsDialog::done(int result)
         return;
     }
     if (result == Accepted) {
+        const bool open = isVisible();
         if (!plCheckPassword() || !lValidateDates() || !plCheckPolicies())
+            return;
+        if (isVisible() != open) // rejected under the caution
             return;
         plTakeControls();
     }

@@ -28,6 +28,7 @@ private slots:
     void duringRead();
     void duringWrite_data() { addCommandRows(extendedWriteCommands()); }
     void duringWrite();
+    void behindTheAnswerOfTheLock();
     void overTheUnlockDialog();
     void overTheOptions();
     void overTheOptionsBeforeTheyAreThere();
@@ -72,6 +73,22 @@ void TestMainWindowExtendedClosing::duringWrite()
     rig.press("buttonWrite");
     QCOMPARE(closedWindowRemains(rig), QString());
     QCOMPARE(rig.wire(), firstOf(extendedWriteCommands(), command));
+}
+
+// In the rest of the reply wait, when the logger has said that it is locked: nobody is asked for a password.
+void TestMainWindowExtendedClosing::behindTheAnswerOfTheLock()
+{
+    ProcedureRig rig;
+    rig.WindowRig::plug(lockedLogger());
+    const UnlockHand hand(rig, {});
+    connect(rig.logger, &SimulatedPort::sAnswered, &rig.window, [&rig](int, const QByteArray& command) {
+        if (command == "#")
+            atNextChance(&rig.window, [&rig] { rig.window.close(); });
+    });
+    rig.press("buttonConnect");
+    QCOMPARE(hand.showings(), 0);
+    QCOMPARE(closedWindowRemains(rig), QString());
+    QCOMPARE(rig.wire(), QList<QByteArray>({"i", "i", "#"}));
 }
 
 void TestMainWindowExtendedClosing::overTheUnlockDialog()

@@ -1,11 +1,15 @@
 // Loggers whose clock can't be trusted: found at the end of a read, or when the reference time comes.
 
+#include "device/brumaloggerinterface.h"
 #include "dialogs/advancedoptionsdialog.h"
 #include "extendedrig.h"
 #include "timerig.h"
 #include "windowstate.h"
 #include "windowwords.h"
 
+#include <QAbstractButton>
+#include <QApplication>
+#include <QPointer>
 #include <QTest>
 
 using namespace TimeWords;
@@ -55,7 +59,11 @@ private slots:
     void asksBeforeItLosesChanges_data();
     void asksBeforeItLosesChanges();
     void startIsCalledOff();
+    void invalidDeviceThatIsKeptIsNotStarted();
     void optionsAreClosed();
+    void acceptedOptionsOfALostDeviceAreNoChange();
+    void cautionOfLostOptionsIsClosed();
+    void pickerIsClosed();
     void noDeviceIsNotJudged();
 };
 
@@ -206,6 +214,86 @@ void TestMainWindowValidity::optionsAreClosed()
     QTimer::singleShot(0, options(rig), [&] { waiting.tellTimeUntil(found.last()); });
     rig.press("buttonAdvanced");
     QVERIFY(waiting.told);
+    QVERIFY(!options(rig)->isVisible());
+    QCOMPARE(differences(rig, disconnected()), QString());
+}
+
+// The device stays connected by the operator's will, but nothing can be done with it.
+void TestMainWindowValidity::invalidDeviceThatIsKeptIsNotStarted()
+{
+    DoubtfulRig waiting(secureLogger(false));
+    TimeRig& rig = waiting.rig;
+    rig.type("lineInfo", QStringLiteral("Batch 8"));
+    expectStartModified(rig.robot, Yes);
+    connect(&rig.robot, &DialogRobot::sBoxOpened, this, [&](const QString& title) {
+        if (title != QStringLiteral("Confirm"))
+            return;
+        waiting.tellTimeUntil(found.first());
+        QVERIFY(QTest::qWaitFor([&] { return rig.robot.boxes().size() == 4; }));
+    });
+    expectInvalidDevice(rig.robot); // this one and the next over the question, and so answered first
+    expectDisconnecting(rig.robot, No);
+    expectStartConfirm(rig.robot, Yes);
+    rig.press("buttonStart");
+    QCOMPARE(rig.wire(), QList<QByteArray>({"m"}));
+    WindowState stays = idle(found.first(), true);
+    stays.controls = Controls::Disabled;
+    QCOMPARE(differences(rig, stays), QString());
+}
+
+// The logger is found invalid just when OK is pressed.
+void TestMainWindowValidity::acceptedOptionsOfALostDeviceAreNoChange()
+{
+    DoubtfulRig waiting(secureLogger(false));
+    TimeRig& rig = waiting.rig;
+    expectInvalidDevice(rig.robot);
+    rig.atCommand(1, [&] { options(rig)->accept(); });
+    QTimer::singleShot(0, options(rig), [&] { waiting.tellTimeUntil(found.last()); });
+    rig.press("buttonAdvanced");
+    QVERIFY(waiting.told);
+    QCOMPARE(differences(rig, disconnected()), QString());
+}
+
+void TestMainWindowValidity::cautionOfLostOptionsIsClosed()
+{
+    LoggerModel model = secureLogger(false);
+    model.settings().policies |= PolicyResetDone | PolicyPasswAlways;
+    DoubtfulRig waiting(model);
+    TimeRig& rig = waiting.rig;
+    options(rig)->lSetPassword(rightPassword);
+    bool stillThere = true;
+    connect(&rig.robot, &DialogRobot::sBoxOpened, this, [&](const QString& title) {
+        if (title != QStringLiteral("Attention"))
+            return;
+        const QWidget* caution = QApplication::activeModalWidget();
+        waiting.tellTimeUntil(found.last());
+        stillThere = caution->isVisible();
+    });
+    expectInvalidDevice(rig.robot); // over the caution, and so answered first
+    expectResetCaution(rig.robot);
+    QTimer::singleShot(0, options(rig), [&] { options(rig)->accept(); });
+    rig.press("buttonAdvanced");
+    QVERIFY(waiting.told);
+    QVERIFY(!stillThere);
+    QCOMPARE(differences(rig, disconnected()), QString());
+}
+
+void TestMainWindowValidity::pickerIsClosed()
+{
+    DoubtfulRig waiting(secureLogger(false));
+    TimeRig& rig = waiting.rig;
+    expectInvalidDevice(rig.robot);
+    QPointer<QWidget> picker;
+    QTimer::singleShot(0, options(rig), [&] {
+        QTimer::singleShot(0, options(rig), [&] {
+            picker = QApplication::activeModalWidget();
+            waiting.tellTimeUntil(found.last());
+        });
+        options(rig)->findChild<QAbstractButton*>("toolStartDate")->click();
+    });
+    rig.press("buttonAdvanced");
+    QVERIFY(waiting.told);
+    QVERIFY(!picker);
     QVERIFY(!options(rig)->isVisible());
     QCOMPARE(differences(rig, disconnected()), QString());
 }

@@ -111,6 +111,18 @@ void WindowWords::expectInvalidDates(DialogRobot& robot)
             "with the <b>Write</b> operation.</p>"));
 }
 
+void WindowWords::expectResetCaution(DialogRobot& robot)
+{
+    robot.expectWarning(
+        QStringLiteral("Attention"),
+        QStringLiteral(
+            "<p>Your current security configuration is <b>valid</b>.<br> However, it only allows a RESET "
+            "after the reports are generated, and <em>report generation</em> is password "
+            "protected.<br>Please note that, in such configuration, forgetting the device's password "
+            "will render it inoperative and non-resettable.<br>Please store its password "
+            "properly.</p>"));
+}
+
 void WindowWords::expectPasswordDisclaimer(DialogRobot& robot)
 {
     robot.expectWarning(

@@ -29,6 +29,8 @@ void expectWriteFailed(DialogRobot& robot);
 void expectWriteCanceled(DialogRobot& robot);
 
 void expectInvalidDates(DialogRobot& robot);
+/// Of the advanced options, when a lost password would make the logger useless.
+void expectResetCaution(DialogRobot& robot);
 /// Of the advanced options, whenever a password is demanded.
 void expectPasswordDisclaimer(DialogRobot& robot);
 
