@@ -15,6 +15,7 @@
 
 #include <QCloseEvent>
 #include <QDesktopServices>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QShortcut>
 #include <QUrl>
@@ -128,6 +129,7 @@ void MainWindow::plConnectSignals()
     connect(ui->buttonConnect, &QPushButton::clicked, this, &MainWindow::plConnect);
     connect(ui->buttonRead, &QPushButton::clicked, this, &MainWindow::plReadFromDevice);
     connect(ui->buttonWrite, &QPushButton::clicked, this, &MainWindow::plWriteToDevice);
+    connect(ui->buttonPreset, &QPushButton::clicked, this, &MainWindow::plLoadDefaultPreset);
     for (QLabel* label : {ui->labelSerial, ui->labelFirmwareVersion, ui->labelDeviceName,
                           ui->labelHardwareRevision, ui->labelLastReset, ui->labelType})
         connect(label, &QLabel::customContextMenuRequested, this,
@@ -139,6 +141,8 @@ void MainWindow::plConnectSignals()
     connect(ui->comboDelay, indexChanged, this, &MainWindow::plUpdateStartDelay);
     connect(ui->spindTempMax, &QDoubleSpinBox::editingFinished, this, &MainWindow::plValidateTempRange);
     connect(ui->spindTempMin, &QDoubleSpinBox::editingFinished, this, &MainWindow::plValidateTempRange);
+    connect(ui->actionSave, &QAction::triggered, this, &MainWindow::plSave);
+    connect(ui->actionLoad, &QAction::triggered, this, &MainWindow::plLoad);
     connect(ui->actionWebHelp, &QAction::triggered, this,
             [] { QDesktopServices::openUrl(QUrl(QLatin1String(onlineHelpAddress))); });
     plConnectServices();
@@ -210,6 +214,8 @@ void MainWindow::plRejectDialogs()
 void MainWindow::plRejectDeviceDialogs()
 {
     rejectAll({advancedOptionsDialog.data(), timeZoneDialog.data(), disclaimer});
+    for (QFileDialog* dialog : findChildren<QFileDialog*>(QString(), Qt::FindDirectChildrenOnly))
+        reject(dialog);
 }
 
 void MainWindow::plDisableControls(bool disabled)

@@ -11,6 +11,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <vector>
+
 class AdvancedOptionsDialog;
 class BrumaloggerInterface;
 class PasswordDialog;
@@ -55,6 +57,12 @@ protected:
 private slots:
     // mainwindow_connect.cpp
     void plConnect();
+
+    // mainwindow_presets.cpp
+    /// Asks for a file and saves what the window shows to it.
+    void plSave();
+    /// Asks for a file and loads it into the window.
+    void plLoad();
 
     // mainwindow_read.cpp, mainwindow_write.cpp, mainwindow_start.cpp
     /// False when a step failed; a cancelled or declined read is true.
@@ -110,13 +118,16 @@ private:
     static constexpr int shipmentTypeSlot = 3; ///< holds a code of shipmentTypes
     static const TextSlot textSlots[4];        ///< in the order in which they are read and written
 
+    struct PresetRow;
+    using DateSetter = void (AdvancedOptionsDialog::*)(bool enabled, const QDateTime& date);
+
     // mainwindow.cpp
     void plConnectSignals();
     void plConnectChanges();
     void plConnectServices();
     void plSetUpButtons();
     void plRejectDialogs();
-    /// Those that work on the connected device.
+    /// Those that show a device's values, or would put others in their place.
     void plRejectDeviceDialogs();
     void plDisableControls(bool disabled);
     /// A question with Yes and No.
@@ -164,6 +175,15 @@ private:
     void plShowDisconnectButton();
     /// The key goes into %1 of @p toolTip.
     void plSetConnectButton(const QString& text, const QString& icon, const QString& toolTip);
+
+    // mainwindow_presets.cpp
+    void plLoadDefaultPreset();
+    /// Spreads the file's values over the window, or says that it can't be read.
+    void loadPresetFile(const QString& path);
+    /// The window's values as they are now, each with its key.
+    std::vector<PresetRow> plPresetRows();
+    void plAdoptDate(const QString& enabled, const QString& dateKey, DateSetter setter);
+    void plAdoptTimeZone(const QString& text);
 
     // mainwindow_read.cpp
     bool plRead();
@@ -221,6 +241,7 @@ private:
     QSharedPointer<PasswordDialog> passwordDialog;
     QSharedPointer<AdvancedOptionsDialog> advancedOptionsDialog; ///< also keeps what it shows
     const QString dateTimeDisplayFormat = QStringLiteral("hh:mm:ss dd/MMM/yyyy");
+    const QString dateTimeShortFormat = QStringLiteral("hh:mm:ss dd/MM/yyyy"); ///< in preset files
     bool keepConnecting = false; ///< false once a connect under way is over and must say nothing more
     bool deviceLocked = false;   ///< the device's password lock is on and wasn't opened
     bool controlsDisabled = false;
@@ -236,8 +257,8 @@ private:
     QList<QPair<float, float>> tempRanges;
     QList<int> sampleTimes;
     bool modified = false;
-    /// Connect, read, write, start, the advanced options or the time zone; a click that arrives meanwhile is
-    /// not obeyed.
+    /// Connect, read, write, start, the advanced options, the time zone or a preset; a click that arrives
+    /// meanwhile is not obeyed.
     bool procedureRuns = false;
     QDialog* disclaimer = nullptr; ///< while it is open
     bool shownBefore = false;

@@ -79,7 +79,7 @@ void MainWindow::plOnInvalidDevice()
     ui->statusBar->showMessage(tr("Invalid device detected."));
     plWarn(tr("Warning"),
            tr("This device is in an invalid state.\nNo connection can be established. Aborting."));
-    // The reference time may have come while the options or the zone of this very device were open.
+    // The reference time may have come while a dialog for this very device was open.
     plRejectDeviceDialogs();
     plLeaveDevice();
 }

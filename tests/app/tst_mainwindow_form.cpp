@@ -263,6 +263,8 @@ void TestMainWindowForm::advancedButton()
 void TestMainWindowForm::slotsInOrder()
 {
     const QStringList told = {"plConnect()",
+                              "plSave()",
+                              "plLoad()",
                               "plReadFromDevice()",
                               "plWriteToDevice()",
                               "plStartLogger()",
