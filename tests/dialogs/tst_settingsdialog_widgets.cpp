@@ -2,14 +2,13 @@
 
 #include "settingsdesk.h"
 
-#include "support/nextchance.h"
+#include "support/filedialoghand.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -17,53 +16,6 @@
 #include <QStandardPaths>
 #include <QTest>
 #include <QToolButton>
-
-namespace {
-
-/// Answers the next file dialog with @p path, or cancels it for an empty one, and returns what it was like.
-class FileDialogHand : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit FileDialogHand(const QString& path)
-        : path(path)
-    {
-        QCoreApplication::instance()->installEventFilter(this);
-    }
-    QString title;
-    QString directory;
-    QStringList filters;
-    const QWidget* parent = nullptr;
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        auto* dialog = qobject_cast<QFileDialog*>(watched);
-        if (dialog && event->type() == QEvent::Show)
-            atNextChance(dialog, [this, dialog] { answer(dialog); });
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    void answer(QFileDialog* dialog)
-    {
-        title = dialog->windowTitle();
-        directory = dialog->directory().path();
-        filters = dialog->nameFilters();
-        parent = dialog->parentWidget();
-        if (path.isEmpty()) {
-            dialog->reject();
-            return;
-        }
-        dialog->findChild<QLineEdit*>()->setText(path);
-        QMetaObject::invokeMethod(dialog, "accept");
-    }
-
-    QString path;
-};
-
-} // namespace
 
 class TestSettingsDialogWidgets : public QObject
 {

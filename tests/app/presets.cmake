@@ -1,0 +1,18 @@
+# Presets in the window: saving, loading, and what comes in between.
+add_library(brumalogger_presettests STATIC
+  ${PROJECT_SOURCE_DIR}/tests/presets/loglines.cpp ${PROJECT_SOURCE_DIR}/tests/presets/loglines.h
+  presetrig.cpp presetrig.h
+  setuppanel.cpp setuppanel.h
+  timerig.cpp timerig.h
+)
+target_link_libraries(brumalogger_presettests PUBLIC
+  brumalogger_ntpresponder
+  brumalogger_proceduretests
+  brumalogger_time
+)
+foreach(concern saving)
+  brumalogger_add_test(tst_mainwindow_presets_${concern} SOURCES tst_mainwindow_presets_${concern}.cpp
+    LINK brumalogger_presettests
+    MOCK NETWORK
+  )
+endforeach()
