@@ -10,6 +10,7 @@
 class AdvancedOptionsDialog;
 
 using PresetTable = QMap<QString, QString>;
+Q_DECLARE_METATYPE(PresetTable)
 
 /// The table of a preset file; the test program ends if it can't be read or has a key that no preset has.
 PresetTable presetIn(const QString& path);
