@@ -19,8 +19,8 @@
 
 namespace {
 
-constexpr QLatin1String fileSuffix(".bpr");
-constexpr QLatin1String fileFilter("Brumalogger preset files (*.bpr)");
+constexpr auto fileSuffix = ".bpr";
+constexpr auto fileFilter = "Brumalogger preset files (*.bpr)";
 
 QString presetFolder()
 {
@@ -117,11 +117,12 @@ void MainWindow::plSave()
         return;
     const QScopedValueRollback<bool> guard(procedureRuns, true);
     QString name =
-        QFileDialog::getSaveFileName(this, tr("Save to preset"), presetFolder(), fileFilter).trimmed();
+        QFileDialog::getSaveFileName(this, tr("Save to preset"), presetFolder(), QLatin1String(fileFilter))
+            .trimmed();
     if (name.isEmpty())
         return;
-    if (!name.endsWith(fileSuffix))
-        name += fileSuffix;
+    if (!name.endsWith(QLatin1String(fileSuffix)))
+        name += QLatin1String(fileSuffix);
     qDebug() << "Saving to " << name;
     for (const PresetRow& row : plPresetRows()) {
         if (row.value)
@@ -139,7 +140,8 @@ void MainWindow::plLoad()
         return;
     const QScopedValueRollback<bool> guard(procedureRuns, true);
     const QString path =
-        QFileDialog::getOpenFileName(this, tr("Load preset"), presetFolder(), fileFilter).trimmed();
+        QFileDialog::getOpenFileName(this, tr("Load preset"), presetFolder(), QLatin1String(fileFilter))
+            .trimmed();
     if (!path.isEmpty())
         loadPresetFile(path);
 }

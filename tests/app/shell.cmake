@@ -40,13 +40,19 @@ target_compile_definitions(tst_mainwindow_layout PRIVATE FORM_FILE="${PROJECT_SO
 # Closing a window from outside takes a real X server, and the test is a client of it like the program itself.
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
-add_executable(tst_program screen.cpp screen.h tst_program.cpp)
-target_link_libraries(tst_program PRIVATE brumalogger_testsupport PkgConfig::XCB)
-target_compile_definitions(tst_program PRIVATE PROGRAM_FILE="$<TARGET_FILE:brumalogger-config-gui>")
-add_dependencies(tst_program brumalogger-config-gui)
-set(folder ${CMAKE_CURRENT_BINARY_DIR}/tst_program_folder)
-file(MAKE_DIRECTORY ${folder})
-add_test(NAME tst_program
-  COMMAND ${PROJECT_SOURCE_DIR}/tests/network/in-private-network ${PROJECT_SOURCE_DIR}/tests/on-x-server $<TARGET_FILE:tst_program>
-  WORKING_DIRECTORY ${folder})
-set_tests_properties(tst_program PROPERTIES ENVIRONMENT "${test_environment}" TIMEOUT 600)
+foreach(program tst_program tst_program_presets)
+  add_executable(${program} programrig.cpp programrig.h ${program}.cpp)
+  target_link_libraries(${program} PRIVATE brumalogger_testsupport PkgConfig::XCB)
+  target_compile_definitions(${program} PRIVATE PROGRAM_FILE="$<TARGET_FILE:brumalogger-config-gui>")
+  add_dependencies(${program} brumalogger-config-gui)
+  set(folder ${CMAKE_CURRENT_BINARY_DIR}/${program}_folder)
+  file(MAKE_DIRECTORY ${folder})
+  set(command $<TARGET_FILE:${program}>)
+  if(program STREQUAL tst_program_presets)
+    list(PREPEND command ${PROJECT_SOURCE_DIR}/tests/on-mock-usb)
+  endif()
+  add_test(NAME ${program}
+    COMMAND ${PROJECT_SOURCE_DIR}/tests/network/in-private-network ${PROJECT_SOURCE_DIR}/tests/on-x-server ${command}
+    WORKING_DIRECTORY ${folder})
+  set_tests_properties(${program} PROPERTIES ENVIRONMENT "${test_environment}" TIMEOUT 600)
+endforeach()

@@ -2,26 +2,22 @@
 //
 // Runs on an X server, where a window can be closed from outside as a window manager does it.
 
-#include "screen.h"
-
+#include "programrig.h"
 #include "support/workfolder.h"
 
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QRandomGenerator>
 #include <QScopedPointer>
-#include <QSignalSpy>
+#include <QSize>
 #include <QStringList>
 #include <QTest>
 
 #include <algorithm>
 
 namespace {
-
-constexpr int patience = 60000; // milliseconds; a busy machine starts a program slowly
 
 const QString title = QStringLiteral("Brumalogger Configuration Tool");
 
@@ -80,19 +76,14 @@ private slots:
     void startsWithAForbiddenFile();
 
 private:
-    /// Starts the program and waits for its window; 0 if none came.
-    xcb_window_t start(const QStringList& arguments);
-    bool end(xcb_window_t window);
-
     QScopedPointer<Screen> screen;
-    QScopedPointer<QProcess> program;
+    QScopedPointer<ProgramRig> program;
     QScopedPointer<WorkFolder> folder;
 };
 
 // Stays connected all the time: an X server without clients starts all over again.
 void TestProgram::initTestCase()
 {
-    qRegisterMetaType<QProcess::ExitStatus>();
     screen.reset(new Screen);
     QVERIFY(screen->isConnected());
 }
@@ -104,46 +95,27 @@ void TestProgram::cleanupTestCase()
 
 void TestProgram::init()
 {
-    program.reset(new QProcess);
+    program.reset(new ProgramRig(*screen));
     folder.reset(new WorkFolder({{QStringLiteral("fontsize"), QStringLiteral("9")}}));
 }
 
 void TestProgram::cleanup()
 {
-    if (program->state() != QProcess::NotRunning) {
-        program->kill();
-        program->waitForFinished();
-    }
     program.reset();
     folder.reset();
 }
 
-xcb_window_t TestProgram::start(const QStringList& arguments)
-{
-    const QSignalSpy shown(screen.data(), &Screen::sWindowShown);
-    program->start(QStringLiteral(PROGRAM_FILE), arguments);
-    const bool came = QTest::qWaitFor([&] { return !shown.isEmpty(); }, patience);
-    return came ? shown.first().first().toUInt() : 0;
-}
-
-bool TestProgram::end(xcb_window_t window)
-{
-    QSignalSpy finished(program.data(), QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished));
-    screen->close(window);
-    return !finished.isEmpty() || finished.wait(patience);
-}
-
 void TestProgram::runsUntilItsWindowIsClosed()
 {
-    const xcb_window_t window = start({});
+    const xcb_window_t window = program->start({});
     QVERIFY(window != 0);
     QCOMPARE(screen->titleOf(window), title);
     QCOMPARE(screen->sizeOf(window), QSize(850, 789));
-    QCOMPARE(program->state(), QProcess::Running);
+    QCOMPARE(program->process.state(), QProcess::Running);
 
-    QVERIFY(end(window));
-    QCOMPARE(program->exitStatus(), QProcess::NormalExit);
-    QCOMPARE(program->exitCode(), 0);
+    QVERIFY(program->end(window));
+    QCOMPARE(program->process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program->process.exitCode(), 0);
 }
 
 void TestProgram::ignoresItsArguments_data()
@@ -161,22 +133,22 @@ void TestProgram::ignoresItsArguments_data()
 void TestProgram::ignoresItsArguments()
 {
     QFETCH(const QStringList, arguments);
-    const xcb_window_t plain = start({});
+    const xcb_window_t plain = program->start({});
     QVERIFY(plain != 0);
     const QSize plainSize = screen->sizeOf(plain);
-    QVERIFY(end(plain));
-    const QByteArray plainErrors = undated(program->readAllStandardError());
-    QCOMPARE(program->readAllStandardOutput(), QByteArray());
+    QVERIFY(program->end(plain));
+    const QByteArray plainErrors = undated(program->process.readAllStandardError());
+    QCOMPARE(program->process.readAllStandardOutput(), QByteArray());
 
-    const xcb_window_t window = start(arguments);
+    const xcb_window_t window = program->start(arguments);
     QVERIFY(window != 0);
     QCOMPARE(screen->titleOf(window), title);
     QCOMPARE(screen->sizeOf(window), plainSize);
-    QVERIFY(end(window));
-    QCOMPARE(program->exitStatus(), QProcess::NormalExit);
-    QCOMPARE(program->exitCode(), 0);
-    QCOMPARE(program->readAllStandardOutput(), QByteArray());
-    QCOMPARE(undated(program->readAllStandardError()), plainErrors);
+    QVERIFY(program->end(window));
+    QCOMPARE(program->process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program->process.exitCode(), 0);
+    QCOMPARE(program->process.readAllStandardOutput(), QByteArray());
+    QCOMPARE(undated(program->process.readAllStandardError()), plainErrors);
 }
 
 void TestProgram::keepsItsSettingsFromStartToStart_data()
@@ -213,10 +185,10 @@ void TestProgram::keepsItsSettingsFromStartToStart()
     folder.reset();
     folder.reset(new WorkFolder(found));
     for (int round = 0; round < 2; round++) {
-        const xcb_window_t window = start({});
+        const xcb_window_t window = program->start({});
         QVERIFY(window != 0);
         QCOMPARE(screen->sizeOf(window), QSize(910, 805));
-        QVERIFY(end(window));
+        QVERIFY(program->end(window));
         QTEST(WorkFolder::configuration(), "left");
     }
 }
@@ -225,9 +197,9 @@ void TestProgram::firstStartLeavesItsDefaults()
 {
     folder.reset();
     folder.reset(new WorkFolder(Settings()));
-    const xcb_window_t window = start({});
+    const xcb_window_t window = program->start({});
     QVERIFY(window != 0);
-    QVERIFY(end(window));
+    QVERIFY(program->end(window));
     QCOMPARE(configurationBesidesTheFont(), defaults());
 }
 
@@ -249,11 +221,11 @@ void TestProgram::startsWithADamagedFile()
     QVERIFY(file.open(QIODevice::WriteOnly));
     QCOMPARE(file.write(bytes), qint64(bytes.size()));
     file.close();
-    const xcb_window_t window = start({});
+    const xcb_window_t window = program->start({});
     QVERIFY(window != 0);
-    QVERIFY(end(window));
-    QCOMPARE(program->exitStatus(), QProcess::NormalExit);
-    QCOMPARE(program->exitCode(), 0);
+    QVERIFY(program->end(window));
+    QCOMPARE(program->process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program->process.exitCode(), 0);
     QCOMPARE(configurationBesidesTheFont(), defaults());
 }
 
@@ -262,12 +234,12 @@ void TestProgram::startsWithAFolderForItsFile()
     folder.reset();
     folder.reset(new WorkFolder(Settings()));
     QVERIFY(QDir().mkdir(QStringLiteral("blconf")));
-    const xcb_window_t window = start({});
+    const xcb_window_t window = program->start({});
     QVERIFY(window != 0);
     QCOMPARE(screen->sizeOf(window), QSize(850, 789));
-    QVERIFY(end(window));
-    QCOMPARE(program->exitStatus(), QProcess::NormalExit);
-    QCOMPARE(program->exitCode(), 0);
+    QVERIFY(program->end(window));
+    QCOMPARE(program->process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program->process.exitCode(), 0);
     QVERIFY(QDir(QStringLiteral("blconf")).isEmpty());
 }
 
@@ -278,12 +250,12 @@ void TestProgram::startsWithAForbiddenFile()
                                  {QStringLiteral("winheight"), QStringLiteral("805")}}));
     QVERIFY(QFile::setPermissions(QStringLiteral("blconf"), {}));
     const bool readable = QFileInfo(QStringLiteral("blconf")).isReadable(); // as it is to the superuser
-    const xcb_window_t window = start({});
+    const xcb_window_t window = program->start({});
     QVERIFY(window != 0);
     QCOMPARE(screen->sizeOf(window), readable ? QSize(910, 805) : QSize(850, 789));
-    QVERIFY(end(window));
-    QCOMPARE(program->exitStatus(), QProcess::NormalExit);
-    QCOMPARE(program->exitCode(), 0);
+    QVERIFY(program->end(window));
+    QCOMPARE(program->process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program->process.exitCode(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestProgram)
