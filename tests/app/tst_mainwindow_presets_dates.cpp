@@ -82,6 +82,7 @@ private slots:
     void oldDateStaysInTheFile_data();
     void oldDateStaysInTheFile();
     void logsWhatItReads();
+    void readsNoMissingDate();
 };
 
 void TestMainWindowPresetsDates::either_data()
@@ -231,6 +232,17 @@ void TestMainWindowPresetsDates::logsWhatItReads()
              QStringList({"debug: Got date/time string: \"tomorrow\"",
                           "debug: Read date/time from file: QDateTime(Invalid)",
                           "debug: Read date/time from file: QDateTime(Invalid)"}));
+}
+
+void TestMainWindowPresetsDates::readsNoMissingDate()
+{
+    PresetRig rig;
+    rig.plugAndConnect(secureLogger());
+    writePreset(defaultPreset,
+                {{start.enableKey, QStringLiteral("1")}, {stop.enableKey, QStringLiteral("1")}});
+    const LogLines log;
+    rig.press("buttonPreset");
+    QCOMPARE(log.all().filter(QStringLiteral("date/time")), QStringList());
 }
 
 QTEST_MAIN(TestMainWindowPresetsDates)
