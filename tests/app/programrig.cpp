@@ -112,7 +112,7 @@ xcb_keycode_t Screen::keyFor(xcb_keysym_t symbol) const
         return 0;
     const xcb_keysym_t* symbols = xcb_get_keyboard_mapping_keysyms(reply.data());
     for (int key = 0; key < count; ++key) {
-        if (symbols[key * reply->keysyms_per_keycode] == symbol)
+        if (symbols[ptrdiff_t(key) * reply->keysyms_per_keycode] == symbol)
             return static_cast<xcb_keycode_t>(setup->min_keycode + key);
     }
     return 0;

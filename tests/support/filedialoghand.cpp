@@ -8,8 +8,10 @@
 #include <QEvent>
 #include <QLineEdit>
 
-FileDialogHand::FileDialogHand(const QString& path)
-    : path(path)
+#include <utility>
+
+FileDialogHand::FileDialogHand(QString path)
+    : path(std::move(path))
 {
     QCoreApplication::instance()->installEventFilter(this);
 }

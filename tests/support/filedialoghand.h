@@ -11,7 +11,7 @@ class FileDialogHand : public QObject
     Q_OBJECT
 
 public:
-    explicit FileDialogHand(const QString& path);
+    explicit FileDialogHand(QString path);
 
     /// The next answers.
     void setPath(const QString& newPath) { path = newPath; }
