@@ -1,6 +1,5 @@
 # Presets in the window: saving, loading, and what comes in between.
 add_library(brumalogger_presettests STATIC
-  ${PROJECT_SOURCE_DIR}/tests/presets/loglines.cpp ${PROJECT_SOURCE_DIR}/tests/presets/loglines.h
   presetrig.cpp presetrig.h
   setuppanel.cpp setuppanel.h
   timerig.cpp timerig.h

@@ -3,7 +3,7 @@
 #include "dialogs/advancedoptionsdialog.h"
 #include "extendedrig.h"
 #include "presetrig.h"
-#include "presets/loglines.h"
+#include "support/loglines.h"
 #include "setuppanel.h"
 #include "windowstate.h"
 
