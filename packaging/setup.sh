@@ -16,7 +16,8 @@ install_packages() {
         apt-get install -y -q --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-build_packages=(cmake g++ libqt5serialport5-dev libumockdev-dev ninja-build pkg-config qtbase5-dev umockdev zlib1g-dev)
+build_packages=(cmake g++ libqt5serialport5-dev libumockdev-dev ninja-build pkg-config qtbase5-dev qttools5-dev
+    qttools5-dev-tools qttranslations5-l10n umockdev zlib1g-dev)
 
 # build PRESET [TARGET...]: configures and builds; says only what went wrong.
 build() {
