@@ -132,10 +132,10 @@ ProgramRig::~ProgramRig()
     }
 }
 
-xcb_window_t ProgramRig::start(const QStringList& arguments)
+xcb_window_t ProgramRig::start(const QStringList& arguments, const QString& file)
 {
     const QSignalSpy shown(&screen, &Screen::sWindowShown);
-    process.start(QStringLiteral(PROGRAM_FILE), arguments);
+    process.start(file, arguments);
     const bool came = QTest::qWaitFor([&] { return !shown.isEmpty(); }, patience);
     return came ? shown.first().first().toUInt() : 0;
 }

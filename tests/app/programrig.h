@@ -55,7 +55,7 @@ public:
     ProgramRig& operator=(const ProgramRig&) = delete;
 
     /// Starts it and waits for its window; 0 if none came.
-    xcb_window_t start(const QStringList& arguments = {});
+    xcb_window_t start(const QStringList& arguments = {}, const QString& file = QStringLiteral(PROGRAM_FILE));
     /// Closes its window and waits for its end.
     bool end(xcb_window_t window);
 

@@ -37,13 +37,29 @@ brumalogger_add_test(tst_mainwindow_servers SOURCES tst_mainwindow_servers.cpp
 )
 target_compile_definitions(tst_mainwindow_layout PRIVATE FORM_FILE="${PROJECT_SOURCE_DIR}/app/mainwindow.ui")
 
+# The program's main function inside a test, which is the only way to look at its widgets.
+get_target_property(lrelease Qt5::lrelease IMPORTED_LOCATION)
+brumalogger_add_test(tst_main_language
+  SOURCES markedtranslation.cpp markedtranslation.h tst_main_language.cpp ${PROJECT_SOURCE_DIR}/app/main.cpp
+  LINK brumalogger_testsupport
+  NETWORK
+)
+set_source_files_properties(${PROJECT_SOURCE_DIR}/app/main.cpp PROPERTIES COMPILE_DEFINITIONS main=programMain)
+target_compile_definitions(tst_main_language PRIVATE
+  LRELEASE_FILE="${lrelease}"
+  TRANSLATION_SOURCE="${PROJECT_SOURCE_DIR}/resources/translations/brumaloger-config-gui_it.ts"
+)
+
 # Closing a window from outside takes a real X server, and the test is a client of it like the program itself.
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
 foreach(program tst_program tst_program_presets)
   add_executable(${program} programrig.cpp programrig.h ${program}.cpp)
   target_link_libraries(${program} PRIVATE brumalogger_testsupport PkgConfig::XCB)
-  target_compile_definitions(${program} PRIVATE PROGRAM_FILE="$<TARGET_FILE:brumalogger-config-gui>")
+  target_compile_definitions(${program} PRIVATE
+    PROGRAM_FILE="$<TARGET_FILE:brumalogger-config-gui>"
+    ITALIAN_FILE="${PROJECT_BINARY_DIR}/translations/brumaloger-config-gui_it.qm"
+  )
   add_dependencies(${program} brumalogger-config-gui)
   set(folder ${CMAKE_CURRENT_BINARY_DIR}/${program}_folder)
   file(MAKE_DIRECTORY ${folder})

@@ -19,6 +19,7 @@
 
 namespace {
 
+const QString italianName = QStringLiteral("brumaloger-config-gui_it.qm");
 const QString title = QStringLiteral("Brumalogger Configuration Tool");
 
 /// Log lines without the one that shows when the configuration was written.
@@ -74,8 +75,16 @@ private slots:
     void startsWithADamagedFile();
     void startsWithAFolderForItsFile();
     void startsWithAForbiddenFile();
+    void logsItsLanguage_data();
+    void logsItsLanguage();
+    void looksForNothingBesideItself();
 
 private:
+    /// The lines of its log in which the program says that it is unable to do or doesn't support something.
+    QByteArray complaints(const QString& file);
+    /// Goes to a new folder.
+    void enter(const Settings& settings);
+
     QScopedPointer<Screen> screen;
     QScopedPointer<ProgramRig> program;
     QScopedPointer<WorkFolder> folder;
@@ -103,6 +112,25 @@ void TestProgram::cleanup()
 {
     program.reset();
     folder.reset();
+}
+
+QByteArray TestProgram::complaints(const QString& file)
+{
+    const xcb_window_t window = program->start({}, file);
+    if (window == 0 || !program->end(window))
+        return "the program did not run";
+    QByteArrayList lines;
+    for (const QByteArray& line : program->process.readAllStandardError().split('\n')) {
+        if (line.startsWith("Un"))
+            lines << line;
+    }
+    return lines.join('\n');
+}
+
+void TestProgram::enter(const Settings& settings)
+{
+    folder.reset(); // first, for it leads back to where it came from
+    folder.reset(new WorkFolder(settings));
 }
 
 void TestProgram::runsUntilItsWindowIsClosed()
@@ -182,8 +210,7 @@ void TestProgram::keepsItsSettingsFromStartToStart_data()
 void TestProgram::keepsItsSettingsFromStartToStart()
 {
     QFETCH(const Settings, found);
-    folder.reset();
-    folder.reset(new WorkFolder(found));
+    enter(found);
     for (int round = 0; round < 2; round++) {
         const xcb_window_t window = program->start({});
         QVERIFY(window != 0);
@@ -195,8 +222,7 @@ void TestProgram::keepsItsSettingsFromStartToStart()
 
 void TestProgram::firstStartLeavesItsDefaults()
 {
-    folder.reset();
-    folder.reset(new WorkFolder(Settings()));
+    enter({});
     const xcb_window_t window = program->start({});
     QVERIFY(window != 0);
     QVERIFY(program->end(window));
@@ -231,8 +257,7 @@ void TestProgram::startsWithADamagedFile()
 
 void TestProgram::startsWithAFolderForItsFile()
 {
-    folder.reset();
-    folder.reset(new WorkFolder(Settings()));
+    enter({});
     QVERIFY(QDir().mkdir(QStringLiteral("blconf")));
     const xcb_window_t window = program->start({});
     QVERIFY(window != 0);
@@ -245,9 +270,8 @@ void TestProgram::startsWithAFolderForItsFile()
 
 void TestProgram::startsWithAForbiddenFile()
 {
-    folder.reset();
-    folder.reset(new WorkFolder({{QStringLiteral("winwidth"), QStringLiteral("910")},
-                                 {QStringLiteral("winheight"), QStringLiteral("805")}}));
+    enter({{QStringLiteral("winwidth"), QStringLiteral("910")},
+           {QStringLiteral("winheight"), QStringLiteral("805")}});
     QVERIFY(QFile::setPermissions(QStringLiteral("blconf"), {}));
     const bool readable = QFileInfo(QStringLiteral("blconf")).isReadable(); // as it is to the superuser
     const xcb_window_t window = program->start({});
@@ -256,6 +280,38 @@ void TestProgram::startsWithAForbiddenFile()
     QVERIFY(program->end(window));
     QCOMPARE(program->process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program->process.exitCode(), 0);
+}
+
+void TestProgram::logsItsLanguage_data()
+{
+    QTest::addColumn<QByteArray>("complaint");
+    QTest::newRow("xx_yy") << QByteArray("Unsupported language setting: \"xx_yy\"");
+    QTest::newRow("fr_fr") << QByteArray("Unable to load translation file \"brumaloger-config-gui_fr\"");
+    QTest::newRow("it_ch") << QByteArray();
+}
+
+void TestProgram::logsItsLanguage()
+{
+    QFETCH(const QByteArray, complaint);
+    enter({{QStringLiteral("language"), QLatin1String(QTest::currentDataTag())}});
+    QVERIFY(QFile::copy(QStringLiteral(ITALIAN_FILE), italianName));
+    QCOMPARE(complaints(QStringLiteral(PROGRAM_FILE)), complaint);
+}
+
+void TestProgram::looksForNothingBesideItself()
+{
+    const QTemporaryDir home;
+    const QString file = home.filePath(QStringLiteral("brumalogger-config-gui"));
+    enter({{QStringLiteral("language"), QStringLiteral("xx_yy")}});
+    QVERIFY(QFile::copy(QStringLiteral("blconf"), home.filePath(QStringLiteral("blconf"))));
+    QVERIFY(QFile::copy(QStringLiteral(PROGRAM_FILE), file));
+    enter({});
+    QCOMPARE(complaints(file), QByteArray("Unable to read configuration file."));
+    QCOMPARE(configurationBesidesTheFont(), defaults());
+
+    enter({{QStringLiteral("language"), QStringLiteral("it_ch")}});
+    QVERIFY(QFile::copy(QStringLiteral(ITALIAN_FILE), home.filePath(italianName)));
+    QCOMPARE(complaints(file), QByteArray("Unable to load translation file \"brumaloger-config-gui_it\""));
 }
 
 QTEST_GUILESS_MAIN(TestProgram)
