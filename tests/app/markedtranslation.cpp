@@ -17,10 +17,9 @@ const QChar closing(0x203A);
 class Marker
 {
 public:
-    Marker(QIODevice* from, QIODevice* to, const QString& context)
+    Marker(QIODevice* from, QIODevice* to)
         : reader(from)
         , writer(to)
-        , wanted(context)
     {
     }
 
@@ -38,29 +37,23 @@ private:
     /// True if the element had a text that is of interest here; it has been copied then.
     bool copyText()
     {
-        if (reader.name() == QLatin1String("name"))
-            writer.writeTextElement(QStringLiteral("name"), context = reader.readElementText());
-        else if (reader.name() == QLatin1String("source"))
+        if (reader.name() == QLatin1String("source"))
             writer.writeTextElement(QStringLiteral("source"), source = reader.readElementText());
         else if (reader.name() == QLatin1String("translation"))
-            writeTranslation();
+            writer.writeTextElement(QStringLiteral("translation"), translation());
         else
             return false;
         return true;
     }
 
-    void writeTranslation()
+    QString translation()
     {
         reader.skipCurrentElement();
-        const bool inScope = wanted.isEmpty() || context == wanted;
-        writer.writeTextElement(QStringLiteral("translation"),
-                                inScope ? MarkedTranslation::of(source) : source);
+        return MarkedTranslation::of(source);
     }
 
     QXmlStreamReader reader;
     QXmlStreamWriter writer;
-    QString wanted;
-    QString context;
     QString source;
 };
 
@@ -76,14 +69,14 @@ bool MarkedTranslation::isMarked(const QString& text)
     return text.contains(opening) && text.contains(closing);
 }
 
-void MarkedTranslation::compile(const QString& file, const QString& context)
+void MarkedTranslation::compile(const QString& file)
 {
     const QTemporaryDir folder;
     QFile source(QStringLiteral(TRANSLATION_SOURCE));
     QFile marked(folder.filePath(QStringLiteral("marked.ts")));
     if (!source.open(QIODevice::ReadOnly) || !marked.open(QIODevice::WriteOnly))
         qFatal("no place for a translation");
-    if (!Marker(&source, &marked, context).run())
+    if (!Marker(&source, &marked).run())
         qFatal("the translation source is no XML");
     marked.close();
     if (QProcess::execute(QStringLiteral(LRELEASE_FILE),

@@ -9,8 +9,7 @@ namespace MarkedTranslation {
 /// The translation of @p source.
 QString of(const QString& source);
 bool isMarked(const QString& text);
-/// Makes the compiled translation @p file, of all texts of the program or of those of @p context alone; the
-/// test program ends if it can't.
-void compile(const QString& file, const QString& context = {});
+/// Makes the compiled translation @p file of all texts of the program; the test program ends if it can't.
+void compile(const QString& file);
 
 } // namespace MarkedTranslation

@@ -7,6 +7,7 @@
 #include "dialogs/settingsdialog.h"
 #include "support/child.h"
 #include "support/loglines.h"
+#include "support/nextchance.h"
 #include "support/workfolder.h"
 
 #include <QAction>
@@ -17,7 +18,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 
 #include <algorithm>
 #include <functional>
@@ -45,10 +45,10 @@ MainWindow* shownWindow()
     return nullptr;
 }
 
-// As soon as there is an application; the timer waits for its event loop.
+// As soon as there is an application; the look waits for its event loop.
 void arrangeLook()
 {
-    QTimer::singleShot(0, qApp, [] {
+    atNextChance(qApp, [] {
         MainWindow* window = shownWindow();
         lookAtTheProgram()(window);
         window->close();
