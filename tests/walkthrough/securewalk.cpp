@@ -18,7 +18,6 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
-#include <QWindow>
 
 #include <cstdio>
 
@@ -32,12 +31,6 @@ void click(const QWidget* dialog, const char* name)
 {
     auto* button = dialog->findChild<QAbstractButton*>(QLatin1String(name));
     QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(edge, button->height() / 2));
-}
-
-bool isOnScreen(const QWidget& dialog)
-{
-    const QWindow* shown = dialog.windowHandle();
-    return shown && shown->isVisible() && shown->isExposed();
 }
 
 } // namespace

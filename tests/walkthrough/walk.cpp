@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QTest>
+#include <QWindow>
 
 #include <cstdio>
 
@@ -22,7 +23,8 @@ int Walk::run()
     window.show();
     if (!QTest::qWaitForWindowExposed(&window))
         return 1;
-    const QString fetched = QStringLiteral("Successfully fetched time and date from time.google.com.");
+    const QString fetched =
+        MainWindow::tr("Successfully fetched time and date from %1.").arg(QStringLiteral("time.google.com"));
     if (!QTest::qWaitFor([&] { return status() == fetched; }, timePatience))
         fail(QStringLiteral("time"));
     else if (doJob())
@@ -60,6 +62,12 @@ bool Walk::fail(const QString& stage) const
 QString Walk::status() const
 {
     return find<QStatusBar>("statusBar")->currentMessage();
+}
+
+bool Walk::isOnScreen(const QWidget& dialog)
+{
+    const QWindow* shown = dialog.windowHandle();
+    return shown && shown->isVisible() && shown->isExposed();
 }
 
 void Walk::takePicture(const QWidget& shown, const QString& name)

@@ -30,6 +30,7 @@ protected:
     bool check(const QString& stage, const QString& status);
     bool fail(const QString& stage) const;
     QString status() const;
+    static bool isOnScreen(const QWidget& dialog);
     static void takePicture(const QWidget& shown, const QString& name);
 
     MainWindow window;
