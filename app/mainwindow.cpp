@@ -6,6 +6,7 @@
 #include "app/statustipfilter.h"
 #include "device/brumaloggerinterface.h"
 #include "dialogs/advancedoptionsdialog.h"
+#include "dialogs/guidedialog.h"
 #include "dialogs/passworddialog.h"
 #include "dialogs/settingsdialog.h"
 #include "dialogs/timezonedialog.h"
@@ -78,6 +79,7 @@ MainWindow::MainWindow(QWidget* parent)
     , device(new BrumaloggerInterface(nullptr))
     , settingsDialog(new SettingsDialog(this))
     , presetStorage(new PresetStorage(this))
+    , guideDialog(new GuideDialog(nullptr))
     , timeManager(new TimeManager(nullptr))
     , timeZoneDialog(new TimeZoneDialog(this))
     , passwordDialog(new PasswordDialog(this))
@@ -162,6 +164,7 @@ void MainWindow::plConnectChanges()
 void MainWindow::plConnectServices()
 {
     connect(ui->actionSettings, &QAction::triggered, settingsDialog.data(), &QDialog::exec);
+    connect(ui->actionQuickstart, &QAction::triggered, guideDialog.data(), &QDialog::show);
     connect(settingsDialog.data(), &QDialog::accepted, this, &MainWindow::plSettingsAccepted);
     connect(timeManager.data(), &TimeManager::sQuerySuccesful, this, &MainWindow::plOnTimeManagerConnect);
     connect(timeManager.data(), &TimeManager::sQueryTimeout, this, &MainWindow::plOnTimeManagerTimeout);
@@ -199,6 +202,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
     }
     closed = true;
     settingsDialog->saveSettings();
+    guideDialog->close();
     plRejectDialogs();
     device->lDisconnect();
     event->accept();

@@ -15,6 +15,7 @@
 
 class AdvancedOptionsDialog;
 class BrumaloggerInterface;
+class GuideDialog;
 class PasswordDialog;
 class PresetStorage;
 class QComboBox;
@@ -236,6 +237,7 @@ private:
     QSharedPointer<BrumaloggerInterface> device;
     QSharedPointer<SettingsDialog> settingsDialog;
     QSharedPointer<PresetStorage> presetStorage; ///< for all presets
+    QSharedPointer<GuideDialog> guideDialog;     ///< a window of its own
     QSharedPointer<TimeManager> timeManager;
     QSharedPointer<TimeZoneDialog> timeZoneDialog;
     QSharedPointer<PasswordDialog> passwordDialog;
