@@ -246,6 +246,13 @@ Your input was truncated.</source>
     </message>
 </context>
 <context>
+    <name>GuideDialog</name>
+    <message>
+        <source>Quickstart Guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Brumalogger Configuration Tool</source>

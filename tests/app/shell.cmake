@@ -1,7 +1,7 @@
 # The window as it stands: its form, its states, the setup panel, the text lines; and the program as a whole.
 brumalogger_add_test(tst_devicetext SOURCES tst_devicetext.cpp LINK brumalogger_app)
 brumalogger_add_test(tst_stepprogress SOURCES tst_stepprogress.cpp LINK brumalogger_app X11)
-foreach(concern form layout shell changes copying setup range texts zone)
+foreach(concern form layout shell changes copying guide setup range texts zone)
   brumalogger_add_test(tst_mainwindow_${concern} SOURCES tst_mainwindow_${concern}.cpp
     LINK brumalogger_proceduretests MOCK X11)
 endforeach()
