@@ -60,16 +60,3 @@ QString SettingsDesk::defaults() const
     return QStringLiteral("no preset, \"\", time, no pool, fast, %1 pt, time.google.com, 0x0")
         .arg(dialog.font().pointSize());
 }
-
-LanguageTable someLanguages()
-{
-    const auto row = [](const char* name, const char* stem) {
-        return qMakePair(QString::fromUtf8(name), QString::fromLatin1(stem));
-    };
-    return {{QStringLiteral("en_us"), row("English (US)", "en")},
-            {QStringLiteral("it_ch"), row("Italiano (IT)", "brumaloger-config-gui_it")},
-            {QStringLiteral("es_es"), row("Español (ES)", "brumaloger-config-gui_es")},
-            {QStringLiteral("pt_br"), row("Português (BR)", "brumaloger-config-gui_ptbr")},
-            {QStringLiteral("fr_fr"), row("Français (FR)", "brumaloger-config-gui_fr")},
-            {QStringLiteral("de_de"), row("Deutsch (DE)", "brumaloger-config-gui_de")}};
-}

@@ -36,6 +36,3 @@ public:
     SettingsDialog dialog;
     DialogRobot robot;
 };
-
-/// The languages of the program, as far as a list of them needs it.
-LanguageTable someLanguages();

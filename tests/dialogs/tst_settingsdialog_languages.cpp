@@ -2,6 +2,8 @@
 
 #include "settingsdesk.h"
 
+#include "app/languages.h"
+
 #include <QComboBox>
 #include <QTest>
 
@@ -53,7 +55,7 @@ void TestSettingsDialogLanguages::chooseByHand(SettingsDesk& desk, const char* l
 
 void TestSettingsDialogLanguages::openAndChooseFrench(SettingsDesk& desk)
 {
-    desk.dialog.setLanguages(someLanguages());
+    desk.dialog.setLanguages(languageTable());
     desk.open();
     desk.robot.expectInformation(
         QStringLiteral("Information"),
@@ -65,7 +67,7 @@ void TestSettingsDialogLanguages::openAndChooseFrench(SettingsDesk& desk)
 void TestSettingsDialogLanguages::listIsInTheOrderOfTheKeys()
 {
     SettingsDesk desk;
-    desk.dialog.setLanguages(someLanguages());
+    desk.dialog.setLanguages(languageTable());
     QCOMPARE(items(desk.find<QComboBox>("comboLanguage")),
              QStringList({"de_de = Deutsch (DE)", "en_us = English (US)", "es_es = Español (ES)",
                           "fr_fr = Français (FR)", "it_ch = Italiano (IT)", "pt_br = Português (BR)"}));
@@ -74,7 +76,7 @@ void TestSettingsDialogLanguages::listIsInTheOrderOfTheKeys()
 void TestSettingsDialogLanguages::listIsReplaced()
 {
     SettingsDesk desk;
-    desk.dialog.setLanguages(someLanguages());
+    desk.dialog.setLanguages(languageTable());
     desk.dialog.setLanguages(
         {{QStringLiteral("en_us"), {QStringLiteral("English (US)"), QStringLiteral("en")}}});
     QCOMPARE(items(desk.find<QComboBox>("comboLanguage")), QStringList("en_us = English (US)"));
@@ -83,9 +85,9 @@ void TestSettingsDialogLanguages::listIsReplaced()
 void TestSettingsDialogLanguages::fillingSaysNothing()
 {
     SettingsDesk desk(settingsOf("it_ch"));
-    desk.dialog.setLanguages(someLanguages());
+    desk.dialog.setLanguages(languageTable());
     desk.dialog.loadSettings();
-    desk.dialog.setLanguages(someLanguages());
+    desk.dialog.setLanguages(languageTable());
     desk.open(); // reads the file once more, now visible
     QCOMPARE(desk.find<QComboBox>("comboLanguage")->currentData().toString(), QStringLiteral("it_ch"));
     QCOMPARE(desk.robot.problems(), QString());
@@ -104,7 +106,7 @@ void TestSettingsDialogLanguages::readsLanguage_data()
 void TestSettingsDialogLanguages::readsLanguage()
 {
     SettingsDesk desk(settingsOf(QTest::currentDataTag()));
-    desk.dialog.setLanguages(someLanguages());
+    desk.dialog.setLanguages(languageTable());
     chooseByHand(desk, "fr_fr");
     QVERIFY(desk.dialog.loadSettings());
     QTEST(desk.find<QComboBox>("comboLanguage")->currentData().toString(), "expected");
@@ -113,7 +115,7 @@ void TestSettingsDialogLanguages::readsLanguage()
 void TestSettingsDialogLanguages::missingLanguageLeavesTheSelection()
 {
     SettingsDesk desk({{QStringLiteral("fontsize"), QStringLiteral("12")}});
-    desk.dialog.setLanguages(someLanguages());
+    desk.dialog.setLanguages(languageTable());
     chooseByHand(desk, "fr_fr");
     QVERIFY(desk.dialog.loadSettings());
     QCOMPARE(desk.find<QComboBox>("comboLanguage")->currentData().toString(), QStringLiteral("fr_fr"));
@@ -152,7 +154,7 @@ void TestSettingsDialogLanguages::choiceByHandIsAnsweredInItsLanguage()
     QFETCH(QString, text);
     const QByteArray language = QTest::currentDataTag();
     SettingsDesk desk(settingsOf(language == "en_us" ? "de_de" : "en_us"));
-    LanguageTable languages = someLanguages();
+    LanguageTable languages = languageTable();
     languages.insert(QStringLiteral("xx_yy"), {QStringLiteral("Elsewhere"), QStringLiteral("xx")});
     desk.dialog.setLanguages(languages);
     desk.dialog.loadSettings();

@@ -2,6 +2,7 @@
 
 #include "settingsdesk.h"
 
+#include "app/languages.h"
 #include "support/filedialoghand.h"
 
 #include <QAbstractButton>
@@ -255,7 +256,7 @@ void TestSettingsDialogWidgets::nothingIsCut()
 {
     QFETCH(int, size);
     SettingsDesk desk;
-    desk.dialog.setLanguages(someLanguages());
+    desk.dialog.setLanguages(languageTable());
     desk.window.setStyleSheet(QStringLiteral("font-size: %1pt").arg(size));
     desk.open();
     QCoreApplication::processEvents();
