@@ -33,7 +33,7 @@ QStringList all(const QString& text, const char* pattern)
 /// The numbers of the headings, as "1" or "2.1".
 QStringList sections(const QString& text)
 {
-    return all(text, "<h[23]>(?:<a name=\"[^\"]*\">)?(\\d(?:\\.\\d)?)");
+    return all(text, "<h[23]>(?:<a[^>]*>)?([0-9](?:[.][0-9])?)");
 }
 
 } // namespace

@@ -26,8 +26,8 @@ protected:
     }
     void press(const char* button) const;
     void pressKeys(Qt::Key keyWithControl);
-    /// False if the status bar says something else than @p status, or if a box was not as expected.
-    bool check(const QString& stage, const QString& status);
+    /// False if the status bar says something else than @p expected, or if a box was not as expected.
+    bool check(const QString& stage, const QString& expected);
     bool fail(const QString& stage) const;
     QString status() const;
     static bool isOnScreen(const QWidget& dialog);
