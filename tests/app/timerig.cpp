@@ -90,6 +90,16 @@ void WaitingRig::tellTimeUntil(const QString& status)
     told = rig.comesTo(status);
 }
 
+SynchronisedRig::SynchronisedRig(const LoggerModel& model, qint64 ahead)
+    : rig(timeSettings())
+{
+    servers.answer(NtpAnswer::currentTime(ahead));
+    if (!rig.comesTo(TimeWords::fetchedServer))
+        qFatal("the answer never came");
+    rig.plugAndConnect(model);
+    rig.takeStatusLog();
+}
+
 bool otherQueryPasses()
 {
     NtpResponder other;

@@ -68,5 +68,14 @@ struct WaitingRig
     bool told = false;
 };
 
+/// A window with a reference time, @p ahead milliseconds ahead, and a connected logger.
+struct SynchronisedRig
+{
+    explicit SynchronisedRig(const LoggerModel& model, qint64 ahead = 0);
+
+    Servers servers;
+    TimeRig rig;
+};
+
 /// A whole query of another server: what was sent and answered before it has come by then.
 bool otherQueryPasses();

@@ -15,23 +15,6 @@ using namespace WindowWords;
 
 namespace {
 
-/// A connected logger and a reference time.
-struct SynchronisedRig
-{
-    explicit SynchronisedRig(const LoggerModel& model, const Settings& settings = timeSettings())
-        : rig(settings)
-    {
-        servers.answer(NtpAnswer::currentTime());
-        if (!rig.comesTo(fetchedServer))
-            qFatal("the answer never came");
-        rig.plugAndConnect(model);
-        rig.takeStatusLog();
-    }
-
-    Servers servers;
-    TimeRig rig;
-};
-
 /// "u" and the seconds, as the wire has it, of the commands; empty if there is none.
 QByteArray clockCommand(const QList<QByteArray>& commands)
 {
