@@ -3,6 +3,7 @@ add_library(brumalogger_proceduretests STATIC
   extendedrig.cpp extendedrig.h
   procedurerig.cpp procedurerig.h
   progresswatch.cpp progresswatch.h
+  pulledplug.cpp pulledplug.h
   quickwire.cpp quickwire.h
   readingrig.cpp readingrig.h
   windowstate.cpp windowstate.h
@@ -14,7 +15,7 @@ foreach(concern
     read readfailures readreplies
     write writefailures results
     start
-    extendedread condition extendedfailures extendedclosing unlock options
+    extendedread condition extendedfailures extendedclosing extendedunplug unlock options
     unplug closing interruptions)
   brumalogger_add_test(tst_mainwindow_${concern} SOURCES tst_mainwindow_${concern}.cpp
     LINK brumalogger_proceduretests MOCK)

@@ -1,6 +1,7 @@
 // The plug is pulled in the middle of a procedure, at every single command; then comes another logger.
 
 #include "procedurerig.h"
+#include "pulledplug.h"
 #include "windowstate.h"
 #include "windowwords.h"
 
@@ -8,42 +9,6 @@
 #include <QTest>
 
 using namespace WindowWords;
-
-namespace {
-
-/// Pulls the plug at the n-th command from now; @p wire is all that the logger has received.
-void pullAt(ProcedureRig& rig, int command, QList<QByteArray>* wire)
-{
-    rig.atCommand(command, [&rig, wire] {
-        *wire = rig.wire();
-        rig.bench.unplug(rig.logger);
-    });
-}
-
-/// The boxes of a read that loses its logger, perhaps only in its last command.
-void expectLostInRead(ProcedureRig& rig, bool inLastCommand)
-{
-    if (!inLastCommand)
-        expectReadFailed(rig.robot);
-    expectInvalidDevice(rig.robot);
-}
-
-/// What goes wrong when another logger is plugged in and the operator connects to it; empty if nothing.
-QString troubleWithNextLogger(ProcedureRig& rig)
-{
-    LoggerModel model = basicLogger();
-    model.settings().serial = QStringLiteral("BL-0043");
-    rig.unplugAll();
-    rig.plug(model);
-    rig.press("buttonConnect");
-    if (rig.wire() != connectCommands())
-        return QStringLiteral("%1 commands on the wire").arg(rig.wire().size());
-    if (panels(rig) != panelsWith(panelsOfBasicLogger(), {QStringLiteral("labelSerial = BL-0043")}))
-        return panels(rig).join(QLatin1String(", "));
-    return differences(rig, connected());
-}
-
-} // namespace
 
 class TestMainWindowUnplug : public QObject
 {
