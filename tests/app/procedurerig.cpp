@@ -72,6 +72,28 @@ void ProcedureRig::pressKeys(Qt::Key key)
     QTest::keyClick(&window, key, Qt::ControlModifier);
 }
 
+void ProcedureRig::pressEverything()
+{
+    for (const char* name : {"buttonConnect", "buttonRead", "buttonWrite", "buttonStart", "buttonAdvanced",
+                             "buttonToolTimeZone"}) {
+        auto* button = find<QWidget>(name);
+        if (button->isVisible())
+            QTest::mouseClick(button, Qt::LeftButton);
+    }
+    for (const Qt::Key key : {Qt::Key_K, Qt::Key_R, Qt::Key_W, Qt::Key_A})
+        pressKeys(key);
+}
+
+void ProcedureRig::pressAtEveryCommand(int* times, const std::function<void()>& also)
+{
+    QObject::connect(logger, &SimulatedPort::sCommandReceived, logger, [this, times, also] {
+        ++*times;
+        pressEverything();
+        if (also)
+            also();
+    });
+}
+
 void ProcedureRig::activate()
 {
     window.activateWindow();
@@ -108,6 +130,15 @@ QList<QByteArray> writeCommandsOfBasicLogger()
             "S4B1234   ",
             "S3Land",
             "k"};
+}
+
+QList<QByteArray> withoutSeconds(QList<QByteArray> commands)
+{
+    for (QByteArray& command : commands) {
+        if (command.startsWith('u'))
+            command.truncate(1);
+    }
+    return commands;
 }
 
 QList<QByteArray> firstOf(const QList<QByteArray>& commands, int count)

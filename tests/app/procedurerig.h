@@ -25,6 +25,10 @@ public:
     void pressCancel();
     /// Presses Ctrl and @p key over the window, which hears it as a shortcut only if it is the active one.
     void pressKeys(Qt::Key key);
+    /// Every button on show and every shortcut of the procedures, at once.
+    void pressEverything();
+    /// The same at every command of the logger from now on, with @p also behind it; counts the times.
+    void pressAtEveryCommand(int* times, const std::function<void()>& also = {});
     /// Makes the window the active one.
     void activate();
 
@@ -43,6 +47,8 @@ constexpr int stepsOfRead = 14;
 QList<QByteArray> connectCommands();
 /// What a write of the values of basicLogger() sends to basic firmware.
 QList<QByteArray> writeCommandsOfBasicLogger();
+/// The same with a "u" that stands for any time.
+QList<QByteArray> withoutSeconds(QList<QByteArray> commands);
 /// The first @p count of @p commands.
 QList<QByteArray> firstOf(const QList<QByteArray>& commands, int count);
 

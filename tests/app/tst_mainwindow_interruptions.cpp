@@ -10,28 +10,6 @@
 
 using namespace WindowWords;
 
-namespace {
-
-/// Every button and every shortcut of the procedures, at once.
-void pressEverything(ProcedureRig& rig)
-{
-    for (const char* button : {"buttonConnect", "buttonRead", "buttonWrite", "buttonStart"})
-        rig.press(button);
-    for (const Qt::Key key : {Qt::Key_K, Qt::Key_R, Qt::Key_W, Qt::Key_A})
-        rig.pressKeys(key);
-}
-
-/// Presses everything at every command of the logger from now on, and counts the times.
-void pressAtEveryCommand(ProcedureRig& rig, int* times)
-{
-    QObject::connect(rig.logger, &SimulatedPort::sCommandReceived, rig.logger, [&rig, times] {
-        ++*times;
-        pressEverything(rig);
-    });
-}
-
-} // namespace
-
 class TestMainWindowInterruptions : public QObject
 {
     Q_OBJECT
@@ -80,7 +58,7 @@ void TestMainWindowInterruptions::duringConnect()
     ProcedureRig rig;
     rig.plug();
     int times = 0;
-    pressAtEveryCommand(rig, &times);
+    rig.pressAtEveryCommand(&times);
     rig.activate();
     rig.press("buttonConnect");
     QCOMPARE(times, connectCommands().size());
@@ -97,8 +75,8 @@ void TestMainWindowInterruptions::beforeConnectHasDialog()
     QStringList pressedAt;
     const auto pressAt = [&](const QString& when) {
         pressedAt << when + QLatin1String(rig.progressDialog() ? " with a dialog" : "");
-        pressEverything(rig);
-        pressEverything(rig);
+        rig.pressEverything();
+        rig.pressEverything();
     };
     rig.atCommand(1, [&] { pressAt(QStringLiteral("handshake")); });
     connect(rig.find<QStatusBar>("statusBar"), &QStatusBar::messageChanged, &rig.window,
@@ -120,7 +98,7 @@ void TestMainWindowInterruptions::duringRead()
     ProcedureRig rig;
     rig.plugAndConnect();
     int times = 0;
-    pressAtEveryCommand(rig, &times);
+    rig.pressAtEveryCommand(&times);
     rig.activate();
     rig.press("buttonRead");
     QCOMPARE(times, readCommands().size());
@@ -137,7 +115,7 @@ void TestMainWindowInterruptions::beforeReadHasDialog()
     rig.activate();
     atNextChance(&rig.window, [&] {
         ++times;
-        pressEverything(rig);
+        rig.pressEverything();
     });
     rig.press("buttonRead");
     QCOMPARE(times, 1);
@@ -150,7 +128,7 @@ void TestMainWindowInterruptions::duringWrite()
     ProcedureRig rig;
     rig.plugAndConnect();
     int times = 0;
-    pressAtEveryCommand(rig, &times);
+    rig.pressAtEveryCommand(&times);
     rig.activate();
     rig.press("buttonWrite");
     QCOMPARE(times, writeCommandsOfBasicLogger().size());
@@ -164,7 +142,7 @@ void TestMainWindowInterruptions::duringStart()
     ProcedureRig rig;
     rig.plugAndConnect(extendedLogger());
     int times = 0;
-    pressAtEveryCommand(rig, &times);
+    rig.pressAtEveryCommand(&times);
     expectStartConfirm(rig.robot, Yes);
     rig.activate();
     rig.press("buttonStart");
@@ -180,7 +158,7 @@ void TestMainWindowInterruptions::duringFailingProcedures()
     ProcedureRig rig;
     rig.plugAndConnect();
     int times = 0;
-    pressAtEveryCommand(rig, &times);
+    rig.pressAtEveryCommand(&times);
     rig.disturb("k", Fault::Kind::Silence);
     rig.disturb("Gt", Fault::Kind::Silence);
     rig.disturb("a", Fault::Kind::Silence);
@@ -206,7 +184,7 @@ void TestMainWindowInterruptions::duringBoxes()
     int times = 0;
     connect(&rig.robot, &DialogRobot::sBoxOpened, &rig.robot, [&] {
         ++times;
-        pressEverything(rig);
+        rig.pressEverything();
     });
     expectNoDevice(rig.robot);
     rig.press("buttonConnect");

@@ -26,15 +26,6 @@ QList<QByteArray> withRepair(QList<QByteArray> commands)
     return commands;
 }
 
-QList<QByteArray> withoutSeconds(QList<QByteArray> commands)
-{
-    for (QByteArray& command : commands) {
-        if (command.startsWith('u'))
-            command.truncate(1);
-    }
-    return commands;
-}
-
 /// A logger that says 1970, once.
 struct RepairRig : ReadingRig
 {

@@ -27,16 +27,6 @@ QList<QByteArray> writeCommands(bool extended)
     return commands;
 }
 
-QList<QByteArray> wireWithoutSeconds(const ProcedureRig& rig)
-{
-    QList<QByteArray> commands = rig.wire();
-    for (QByteArray& command : commands) {
-        if (command.startsWith('u'))
-            command.truncate(1);
-    }
-    return commands;
-}
-
 void addSynchronisationRows()
 {
     QTest::addColumn<bool>("extended");
@@ -70,7 +60,7 @@ void TestMainWindowTimeSyncFaults::windowIsClosed()
     rig.atCommand(command, [&rig] { rig.window.close(); });
     rig.press("buttonWrite");
     QCOMPARE(closedWindowRemains(rig), QString());
-    QCOMPARE(wireWithoutSeconds(rig), firstOf(writeCommands(extended), command));
+    QCOMPARE(withoutSeconds(rig.wire()), firstOf(writeCommands(extended), command));
 }
 
 // The figures on the device's clock are sent and not the reference time, so the new answer changes nothing.
@@ -89,7 +79,7 @@ void TestMainWindowTimeSyncFaults::otherTimeComes()
     });
     rig.press("buttonWrite");
     QVERIFY(came);
-    QCOMPARE(wireWithoutSeconds(rig), writeCommands(extended));
+    QCOMPARE(withoutSeconds(rig.wire()), writeCommands(extended));
     QVERIFY(qAbs(rig.logger->model().settings().clockOffset) <= 2);
     QCOMPARE(rig.takeStatusLog(),
              QStringList({"Writing to device...", fetchingPool, fetchedPool, "Write successful"}));
@@ -109,7 +99,7 @@ void TestMainWindowTimeSyncFaults::otherTimeIsAskedFor()
         rig.dialog->accept();
     });
     rig.press("buttonWrite");
-    QCOMPARE(wireWithoutSeconds(rig), writeCommands(extended));
+    QCOMPARE(withoutSeconds(rig.wire()), writeCommands(extended));
     QVERIFY(qAbs(rig.logger->model().settings().clockOffset) <= 2);
     QCOMPARE(differences(rig, idle(QStringLiteral("Write successful"), false)), QString());
 }
