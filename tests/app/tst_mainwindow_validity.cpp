@@ -55,6 +55,8 @@ private slots:
     void leavesInTheMiddleOfAConnect();
     void judgesClockByReferenceTime_data();
     void judgesClockByReferenceTime();
+    void readsByReferenceTime_data() { judgesClockByReferenceTime_data(); }
+    void readsByReferenceTime();
     void silenceIsTakenAsInvalid();
     void asksBeforeItLosesChanges_data();
     void asksBeforeItLosesChanges();
@@ -153,6 +155,26 @@ void TestMainWindowValidity::judgesClockByReferenceTime()
     QCOMPARE(rig.wire(), QList<QByteArray>({"m"}));
     QCOMPARE(rig.takeStatusLog(), QStringList(fetchedServer) + (valid ? QStringList() : found));
     QCOMPARE(differences(rig, valid ? idle(fetchedServer, false) : disconnected()), QString());
+}
+
+// The same in a read, for which the reference time is already there.
+void TestMainWindowValidity::readsByReferenceTime()
+{
+    QFETCH(const LoggerModel, model);
+    QFETCH(const bool, valid);
+    WaitingRig waiting(Q_INT64_C(3) * 86400 * 1000);
+    waiting.tellTimeUntil(fetchedServer);
+    QVERIFY(waiting.told);
+    TimeRig& rig = waiting.rig;
+    rig.takeStatusLog();
+    rig.plug(model);
+    if (!valid)
+        expectInvalidDevice(rig.robot);
+    rig.press("buttonConnect");
+    QStringList statuses{"Connecting to device... ", "Reading from device on ttyACM0", "Read successful"};
+    statuses += valid ? QStringList("Connected to device on ttyACM0") : found;
+    QCOMPARE(rig.takeStatusLog(), statuses);
+    QCOMPARE(differences(rig, valid ? connected() : disconnected()), QString());
 }
 
 void TestMainWindowValidity::silenceIsTakenAsInvalid()
