@@ -1,6 +1,7 @@
 // The window is closed in the middle of a procedure, at every single command: nothing more is said or sent.
 
 #include "procedurerig.h"
+#include "progresswatch.h"
 #include "support/nextchance.h"
 #include "windowstate.h"
 #include "windowwords.h"
@@ -46,12 +47,14 @@ void TestMainWindowClosing::duringConnect()
     QFETCH(const int, command);
     ProcedureRig rig;
     rig.plug();
+    const ProgressWatch watch;
     rig.atCommand(command, [&rig] { rig.window.close(); });
     if (command >= firstModifiedInConnect && command < connectCommands().size())
         expectExit(rig.robot, Yes);
     rig.press("buttonConnect");
     QCOMPARE(closedWindowRemains(rig), QString());
     QCOMPARE(rig.wire(), firstOf(connectCommands(), command));
+    QCOMPARE(watch.dialogs().size(), command > 2 ? 1 : 0); // behind the identification
 }
 
 void TestMainWindowClosing::duringRead()
@@ -59,12 +62,14 @@ void TestMainWindowClosing::duringRead()
     QFETCH(const int, command);
     ProcedureRig rig;
     rig.plugAndConnect();
+    const ProgressWatch watch;
     rig.atCommand(command, [&rig] { rig.window.close(); });
     if (command >= firstModifiedInRead && command <= stepsOfRead)
         expectExit(rig.robot, Yes);
     rig.press("buttonRead");
     QCOMPARE(closedWindowRemains(rig), QString());
     QCOMPARE(rig.wire(), firstOf(readCommands(), command));
+    QCOMPARE(watch.dialogs().size(), command > 1 ? 1 : 0);
 }
 
 void TestMainWindowClosing::duringWrite_data()

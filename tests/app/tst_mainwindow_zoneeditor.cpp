@@ -44,6 +44,8 @@ private slots:
     void proposesTheZoneOnTheClock();
     void sameZoneIsAChange();
     void zoneOfTheDeviceGivesWayToTheClocks();
+    void zoneOfTheDeviceIsBackAfterARead();
+    void clockOfNoZoneIsGmt();
     void cancelChangesNothing();
     void confirmationCanBeDeclined();
     void declinedChoiceIsForgotten();
@@ -136,7 +138,32 @@ void TestMainWindowZoneEditor::zoneOfTheDeviceGivesWayToTheClocks()
     QCOMPARE(zones.rig.text("labelTimeZone"), QStringLiteral("GMT+3:00"));
     zones.rig.press("buttonAdvanced");
     QCOMPARE(options(zones.rig)->lTimeZoneName(), QStringLiteral("GMT+3:00"));
+    QCOMPARE(options(zones.rig)->lTimeZoneOffset(), 3 * 3600);
     QCOMPARE(differences(zones.rig, accepted()), QString());
+}
+
+void TestMainWindowZoneEditor::zoneOfTheDeviceIsBackAfterARead()
+{
+    ZoneRig zones(ahead(newerLogger(), 3600));
+    zones.change();
+    expectReadQuestion(zones.rig.robot, Yes);
+    zones.rig.press("buttonRead");
+    zones.rig.press("buttonAdvanced");
+    QCOMPARE(options(zones.rig)->lTimeZoneName(), QStringLiteral("GMT+2:00"));
+    QCOMPARE(options(zones.rig)->lTimeZoneOffset(), 2 * 3600);
+    QCOMPARE(differences(zones.rig, idle(QStringLiteral("Read successful"), false)), QString());
+}
+
+// A better reference time has come since, and by that one the clock is days off.
+void TestMainWindowZoneEditor::clockOfNoZoneIsGmt()
+{
+    ZoneRig zones(newerLogger());
+    zones.change(QStringLiteral("GMT+9:00"));
+    zones.fetchTime(3 * 86400);
+    zones.rig.press("buttonAdvanced");
+    QCOMPARE(options(zones.rig)->lTimeZoneName(), QStringLiteral("GMT"));
+    QCOMPARE(options(zones.rig)->lTimeZoneOffset(), 0);
+    QCOMPARE(differences(zones.rig, idle(TimeWords::fetchedPool, true)), QString());
 }
 
 void TestMainWindowZoneEditor::cancelChangesNothing()
