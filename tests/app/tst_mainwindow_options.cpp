@@ -68,7 +68,7 @@ private slots:
     void datesAreInTheDevicesZone();
     void zoneThatNobodyKnowsIsGmt();
     void editedOptionsAreWritten();
-    void everyWordComesBack();
+    void everyBitComesBack();
     void passwordIsWrittenEachTime();
     void outdatedDatesAreNotWritten_data();
     void outdatedDatesAreNotWritten();
@@ -212,8 +212,8 @@ void TestMainWindowOptions::editedOptionsAreWritten()
     QCOMPARE(differences(rig, idle(QStringLiteral("Write successful"), false)), QString());
 }
 
-// Untouched, they reach the device as they came from it; these are all of the bits.
-void TestMainWindowOptions::everyWordComesBack()
+// Untouched, each of the sixteen reaches the device as it came from it, also one without a meaning.
+void TestMainWindowOptions::everyBitComesBack()
 {
     ProcedureRig rig;
     rig.plugAndConnect(undatedLogger());
