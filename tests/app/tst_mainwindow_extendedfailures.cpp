@@ -32,6 +32,16 @@ void addRows(const QList<QByteArray>& wanted, int skipped = 0)
     addReadingRows(extendedReadCommands(), wanted, skipped);
 }
 
+/// The first question for the type, the one of the read itself.
+void addTypeRows()
+{
+    const int number = extendedReadCommands().indexOf("m") + 1;
+    QTest::addRow("%d m in a connect", number) << QByteArray("m") << number << true;
+    QTest::addRow("%d m in a read", number) << QByteArray("m") << number << false;
+}
+
+const QList<const char*> zoneLabels{"labelTimeZoneStatic", "labelTimeZone"};
+
 } // namespace
 
 class TestMainWindowExtendedFailures : public QObject
@@ -49,6 +59,8 @@ private slots:
     void readKeepsTheLinkWithoutAWordOnTheBattery();
     void silentDeviceIsTakenAsInvalid_data();
     void silentDeviceIsTakenAsInvalid();
+    void silentAfterAGoodRead_data();
+    void silentAfterAGoodRead();
     void readStopsAtCancel_data();
     void readStopsAtCancel();
     void readTakesNoCancelAtItsEnd_data();
@@ -64,8 +76,10 @@ private slots:
 void TestMainWindowExtendedFailures::readFailsAtSilence_data()
 {
     addRows({"i", "e", "g", "Gt", "Gs", "Gd", "Gl", "G3", "Go", "Gz", "Ga", "Gp"});
+    addTypeRows();
 }
 
+// Not even the zone of the device is left, also where it was read in time.
 void TestMainWindowExtendedFailures::readFailsAtSilence()
 {
     QFETCH(const int, number);
@@ -76,6 +90,7 @@ void TestMainWindowExtendedFailures::readFailsAtSilence()
     rig.run();
     QCOMPARE(rig.wire(), rig.commandsOfReadEndingAt(number));
     QCOMPARE(panels(rig), emptyPanels());
+    QCOMPARE(visibleLabels(rig, zoneLabels), QStringList());
     QCOMPARE(differences(rig, rig.lostState()), QString());
 }
 
@@ -169,13 +184,36 @@ void TestMainWindowExtendedFailures::silentDeviceIsTakenAsInvalid()
     QCOMPARE(differences(rig, disconnected()), QString());
 }
 
+void TestMainWindowExtendedFailures::silentAfterAGoodRead_data()
+{
+    QTest::addColumn<bool>("connecting");
+    QTest::newRow("in a connect") << true;
+    QTest::newRow("in a read") << false;
+}
+
+// Only the last question for the type has no answer.
+void TestMainWindowExtendedFailures::silentAfterAGoodRead()
+{
+    QFETCH(const bool, connecting);
+    ExtendedReadingRig rig(connecting);
+    rig.disturb(rig.number(extendedReadCommands().size()), Fault::Kind::Silence);
+    expectInvalidDevice(rig.robot);
+    rig.run();
+    QCOMPARE(rig.wire(), rig.commandsUpTo(extendedReadCommands().size()));
+    QCOMPARE(panels(rig), emptyPanels());
+    QStringList statuses{"Reading from device on ttyACM0", "Read successful", "Invalid device detected.",
+                         "Disconnected from ttyACM0"};
+    if (connecting)
+        statuses.prepend("Connecting to device... ");
+    QCOMPARE(rig.takeStatusLog(), statuses);
+    QCOMPARE(differences(rig, disconnected()), QString());
+}
+
 void TestMainWindowExtendedFailures::readStopsAtCancel_data()
 {
     // From the first step of the dialog on, and as long as it is looked at.
     addRows({"e", "i", "g", "Gt", "Gs", "Gd", "Gl", "G0", "G1", "G2", "G4", "G3", "Go", "Gz", "Ga", "Gp"}, 2);
-    const int type = extendedReadCommands().indexOf("m") + 1;
-    QTest::addRow("%d m in a connect", type) << QByteArray("m") << type << true;
-    QTest::addRow("%d m in a read", type) << QByteArray("m") << type << false;
+    addTypeRows();
 }
 
 void TestMainWindowExtendedFailures::readStopsAtCancel()
@@ -189,6 +227,7 @@ void TestMainWindowExtendedFailures::readStopsAtCancel()
     const QList<QByteArray> more = isText(command) ? QList<QByteArray>{"G3"} : QList<QByteArray>();
     QCOMPARE(rig.wire(), rig.commandsUpTo(number) + more + QList<QByteArray>{"m"});
     QCOMPARE(panels(rig), emptyPanels());
+    QCOMPARE(visibleLabels(rig, zoneLabels), QStringList());
     QCOMPARE(differences(rig, rig.lostState()), QString());
 }
 

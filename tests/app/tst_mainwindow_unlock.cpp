@@ -43,6 +43,9 @@ class TestMainWindowUnlock : public QObject
 
 private slots:
     void unlocks();
+    void unlocksSingleUseLogger();
+    void unlocksWithoutAWordOnTheLogger_data();
+    void unlocksWithoutAWordOnTheLogger();
     void unlocksAtTheSecondTry();
     void givesUpWhenRefused();
     void givesUpWithoutAnswer();
@@ -66,6 +69,39 @@ void TestMainWindowUnlock::unlocks()
     QCOMPARE(hand.showings(), 1);
     QVERIFY(!rig.logger->model().settings().locked);
     QCOMPARE(rig.text("labelSerial"), QStringLiteral("BL-0042"));
+    QCOMPARE(differences(rig, connected()), QString());
+}
+
+void TestMainWindowUnlock::unlocksSingleUseLogger()
+{
+    LoggerModel model = lockedLogger();
+    model.settings().multiuse = false;
+    ProcedureRig rig;
+    rig.plug(model);
+    const UnlockHand hand(rig, {rightPassword});
+    rig.press("buttonConnect");
+    QCOMPARE(rig.wire(), connectUpToTheDialog()
+                             << attempt(rightPassword) << extendedReadCommands(false).mid(2));
+    QCOMPARE(differences(rig, connected()), QString());
+}
+
+void TestMainWindowUnlock::unlocksWithoutAWordOnTheLogger_data()
+{
+    addCommandRows(connectUpToTheDialog(), {4, 5, 6, 7});
+}
+
+// The dialog asks no further, and the password can be tried all the same.
+void TestMainWindowUnlock::unlocksWithoutAWordOnTheLogger()
+{
+    QFETCH(const int, command);
+    ProcedureRig rig;
+    rig.plug(lockedLogger());
+    rig.disturb(command, Fault::Kind::Silence);
+    const UnlockHand hand(rig, {rightPassword});
+    rig.press("buttonConnect");
+    QCOMPARE(rig.wire(), firstOf(connectUpToTheDialog(), command)
+                             << attempt(rightPassword) << restOfTheRead());
+    QCOMPARE(hand.showings(), 1);
     QCOMPARE(differences(rig, connected()), QString());
 }
 
