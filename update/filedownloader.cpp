@@ -1,0 +1,34 @@
+// One HTTP GET.
+
+#include "update/filedownloader.h"
+
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QUrl>
+
+FileDownloader::FileDownloader(const QUrl& url, QObject* parent)
+    : QObject(parent)
+{
+    connect(&networkManager, &QNetworkAccessManager::finished, this, &FileDownloader::fileDownloaded);
+    QNetworkRequest request(url);
+    request.setRawHeader("User-Agent", "Mozilla Firefox");
+    // All that Qt 5 has in every version; the latest would rather see a policy, which says no more.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    request.setAttribute(QNetworkRequest::FollowRedirectsAttribute, true);
+    QT_WARNING_POP
+    networkManager.get(request);
+}
+
+QByteArray FileDownloader::downloadedData() const
+{
+    return downloadedBytes;
+}
+
+// Neither error nor status is looked at.
+void FileDownloader::fileDownloaded(QNetworkReply* pReply)
+{
+    downloadedBytes = pReply->readAll();
+    pReply->deleteLater();
+    emit downloaded();
+}
