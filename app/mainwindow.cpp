@@ -13,18 +13,20 @@
 #include "presets/presetstorage.h"
 #include "time/timemanager.h"
 #include "ui_mainwindow.h"
+#include "update/makerweb.h"
+#include "update/updatechecker.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QShortcut>
-#include <QUrl>
 
 namespace {
 
-/// A web server of the maker, which redirects to the guide.
-constexpr auto onlineHelpAddress = "http://www.polarridgeworks.example/redir/guide/brumaloggerconftool";
+constexpr auto onlineHelpPath = "/redir/guide/brumaloggerconftool"; ///< redirects to the guide
+constexpr auto productPagePath = "/brumalogger";
 
 struct MainButton
 {
@@ -79,11 +81,13 @@ MainWindow::MainWindow(QWidget* parent)
     , device(new BrumaloggerInterface(nullptr))
     , settingsDialog(new SettingsDialog(this))
     , presetStorage(new PresetStorage(this))
+    , updateChecker(new UpdateChecker(versionMajor, versionMinor, versionPatch, this))
     , guideDialog(new GuideDialog(nullptr))
     , timeManager(new TimeManager(nullptr))
     , timeZoneDialog(new TimeZoneDialog(this))
     , passwordDialog(new PasswordDialog(this))
     , advancedOptionsDialog(new AdvancedOptionsDialog(this))
+    , fallbackDownloadUrl(QLatin1String(makerHost) + QLatin1String(productPagePath))
 {
     Q_INIT_RESOURCE(images);
     Q_INIT_RESOURCE(pages);
@@ -146,7 +150,8 @@ void MainWindow::plConnectSignals()
     connect(ui->actionSave, &QAction::triggered, this, &MainWindow::plSave);
     connect(ui->actionLoad, &QAction::triggered, this, &MainWindow::plLoad);
     connect(ui->actionWebHelp, &QAction::triggered, this,
-            [] { QDesktopServices::openUrl(QUrl(QLatin1String(onlineHelpAddress))); });
+            [] { QDesktopServices::openUrl(makerAddress(onlineHelpPath)); });
+    connect(ui->actionAbout, &QAction::triggered, this, [this] { plShowAbout(); });
     plConnectServices();
 }
 
@@ -168,6 +173,8 @@ void MainWindow::plConnectServices()
     connect(settingsDialog.data(), &QDialog::accepted, this, &MainWindow::plSettingsAccepted);
     connect(timeManager.data(), &TimeManager::sQuerySuccesful, this, &MainWindow::plOnTimeManagerConnect);
     connect(timeManager.data(), &TimeManager::sQueryTimeout, this, &MainWindow::plOnTimeManagerTimeout);
+    connect(updateChecker.data(), &UpdateChecker::sUpdateAvailable, this, &MainWindow::lUpdateAvailable);
+    connect(updateChecker.data(), &UpdateChecker::sUpdateMandatory, this, &MainWindow::lUpdateMandatory);
 }
 
 void MainWindow::plSetUpButtons()
@@ -191,6 +198,7 @@ void MainWindow::showEvent(QShowEvent* event)
     shownBefore = true;
     plClearDeviceInfo();
     plDisableControls(true);
+    updateChecker->check();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
@@ -208,9 +216,15 @@ void MainWindow::closeEvent(QCloseEvent* event)
     event->accept();
 }
 
-// None of them outlives the window or its device on the screen.
+// None of them outlives the window or its device on the screen. To a box that asks the answer is No, or
+// Cancel.
 void MainWindow::plRejectDialogs()
 {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        if (qobject_cast<QMessageBox*>(window))
+            window->close();
+    }
     rejectAll({settingsDialog.data(), passwordDialog.data()});
     plRejectDeviceDialogs();
 }

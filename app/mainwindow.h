@@ -27,6 +27,7 @@ class SettingsDialog;
 class StepProgress;
 class TimeManager;
 class TimeZoneDialog;
+class UpdateChecker;
 enum class StepResult;
 
 namespace Ui {
@@ -49,10 +50,17 @@ public:
     /// The languages that the settings offer.
     void lSetLanguages(const LanguageTable& table);
 
+public slots:
+    // mainwindow_updates.cpp
+    /// Offers version @p v, which is at @p u; without an address it is the maker's product page.
+    void lUpdateAvailable(const QString& v, const QString& u);
+    /// The same, and closes the window whatever the answer is.
+    void lUpdateMandatory(const QString& v, const QString& u);
+
 protected:
     /// Asks before unwritten changes are lost, then saves the settings and closes the link.
     void closeEvent(QCloseEvent* event) override;
-    /// The first showing empties the panels and disables the controls.
+    /// The first showing empties the panels, disables the controls and asks for a newer version.
     void showEvent(QShowEvent* event) override;
 
 private slots:
@@ -113,6 +121,9 @@ private:
         int limit;
     };
 
+    static constexpr int versionMajor = 1;
+    static constexpr int versionMinor = 3;
+    static constexpr int versionPatch = 3;
     static constexpr int maxReportTextLength = 60;
     static constexpr int maxBarcodeLength = 10;
     static constexpr int secondsPerMinute = 60;
@@ -233,15 +244,22 @@ private:
     /// The window is open and the device in use, which a dialog's event loop may have changed.
     bool plDeviceStays() const;
 
+    // mainwindow_updates.cpp
+    void plShowAbout();
+    /// Puts the versions into @p text and opens the address on Ok. False when the window is closed.
+    bool plPrompt(const QString& title, const QString& text, const QString& version, const QString& url);
+
     Ui::MainWindow* ui;
     QSharedPointer<BrumaloggerInterface> device;
     QSharedPointer<SettingsDialog> settingsDialog;
     QSharedPointer<PresetStorage> presetStorage; ///< for all presets
+    QSharedPointer<UpdateChecker> updateChecker;
     QSharedPointer<GuideDialog> guideDialog;     ///< a window of its own
     QSharedPointer<TimeManager> timeManager;
     QSharedPointer<TimeZoneDialog> timeZoneDialog;
     QSharedPointer<PasswordDialog> passwordDialog;
     QSharedPointer<AdvancedOptionsDialog> advancedOptionsDialog; ///< also keeps what it shows
+    const QString fallbackDownloadUrl;                           ///< has no scheme
     const QString dateTimeDisplayFormat = QStringLiteral("hh:mm:ss dd/MMM/yyyy");
     const QString dateTimeShortFormat = QStringLiteral("hh:mm:ss dd/MM/yyyy"); ///< in preset files
     bool keepConnecting = false; ///< false once a connect under way is over and must say nothing more
