@@ -47,6 +47,12 @@ void DialogRobot::expectQuestion(const QString& title, const QString& text,
     expect({QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No}, answer);
 }
 
+void DialogRobot::expectPlain(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
+                              QMessageBox::StandardButton answer)
+{
+    expect({QMessageBox::NoIcon, title, text, buttons}, answer);
+}
+
 void DialogRobot::expect(const Box& box, QMessageBox::StandardButton answer)
 {
     expectations.append({box, answer});
@@ -81,7 +87,8 @@ void DialogRobot::answerBox(QMessageBox* box)
         return;
     }
     const Expectation expectation = expectations.takeFirst();
-    box->button(expectation.answer)->click();
+    if (box->isVisible())
+        box->button(expectation.answer)->click();
 }
 
 bool DialogRobot::matches(const Box& expected, const Box& actual)

@@ -30,6 +30,9 @@ public:
     /// A warning that can be cancelled.
     void expectChoice(const QString& title, const QString& text, QMessageBox::StandardButton answer);
     void expectQuestion(const QString& title, const QString& text, QMessageBox::StandardButton answer);
+    /// A box without an icon.
+    void expectPlain(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
+                     QMessageBox::StandardButton answer);
 
     /// Every box that was opened so far.
     const QList<Box>& boxes() const { return seen; }
@@ -37,7 +40,7 @@ public:
     QString problems() const;
 
 signals:
-    /// A box is open, just before it is answered.
+    /// A box is open, just before it is answered. One that is closed meanwhile is left at that.
     void sBoxOpened(const QString& title);
 
 protected:
