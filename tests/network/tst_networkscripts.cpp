@@ -12,6 +12,7 @@ namespace {
 
 const QString privateNetwork = QStringLiteral(NETWORK_SCRIPTS "/in-private-network");
 const QString timeServers = QStringLiteral(NETWORK_SCRIPTS "/with-time-servers");
+const QString webServer = QStringLiteral(NETWORK_SCRIPTS "/with-web-server");
 
 QByteArray contents(const QString& path)
 {
@@ -43,6 +44,9 @@ private slots:
     void saysThatAServerCannotStart();
     void choosesServers_data();
     void choosesServers();
+    void webServerServesAFolder();
+    void saysThatAWebServerIsThere();
+    void webServerNeedsTheNetwork();
     void serversEndWithTheCommand_data();
     void serversEndWithTheCommand();
 
@@ -151,23 +155,60 @@ void TestNetworkScripts::choosesServers()
         QVERIFY(sockets.contains("0" + QByteArray::number(server) + "00017F:007B"));
 }
 
+void TestNetworkScripts::webServerServesAFolder()
+{
+    const QTemporaryDir folder;
+    const QString get = QStringLiteral("printf hello >\"$WEB_FOLDER/file\"; exec 3<>/dev/tcp/127.2.0.1/80; "
+                                       "printf 'GET /file HTTP/1.0\\r\\n\\r\\n' >&3; cat <&3; exit 42");
+    run({privateNetwork, webServer, folder.filePath("new/served"), "bash", "-c", get});
+    QCOMPARE(process.readAllStandardError(), QByteArray());
+    const QByteArray answer = process.readAllStandardOutput();
+    QVERIFY2(answer.startsWith("HTTP/1.0 200 OK\r\n"), answer);
+    QVERIFY2(answer.endsWith("\r\n\r\nhello"), answer);
+    QCOMPARE(process.exitCode(), 42);
+}
+
+void TestNetworkScripts::saysThatAWebServerIsThere()
+{
+    const QTemporaryDir folder;
+    run({privateNetwork, webServer, folder.path(), webServer, folder.path(), "true"});
+    QCOMPARE(process.exitCode(), 1);
+    QCOMPARE(process.readAllStandardError(),
+             QByteArray("with-web-server: somebody else serves at 127.2.0.1\n"));
+}
+
+void TestNetworkScripts::webServerNeedsTheNetwork()
+{
+    run({webServer, "nowhere", "true"});
+    QCOMPARE(process.exitCode(), 1);
+    QCOMPARE(process.readAllStandardError(),
+             QByteArray("with-web-server: this is not the private network; run it by in-private-network\n"));
+}
+
 void TestNetworkScripts::serversEndWithTheCommand_data()
 {
+    QTest::addColumn<QStringList>("servers");
+    QTest::addColumn<int>("number");
     QTest::addColumn<int>("signal");
-    QTest::newRow("killed") << SIGKILL;
-    QTest::newRow("terminated") << SIGTERM;
-    QTest::newRow("of itself") << 0;
+    const QStringList web{webServer, "web"};
+    QTest::newRow("killed") << QStringList(timeServers) << 7 << SIGKILL;
+    QTest::newRow("terminated") << QStringList(timeServers) << 7 << SIGTERM;
+    QTest::newRow("of itself") << QStringList(timeServers) << 7 << 0;
+    QTest::newRow("killed, web") << web << 1 << SIGKILL;
+    QTest::newRow("of itself, web") << web << 1 << 0;
 }
 
 void TestNetworkScripts::serversEndWithTheCommand()
 {
+    QFETCH(QStringList, servers);
     QFETCH(int, signal);
-    process.start(privateNetwork, {timeServers, "sh", "-c",
-                                   "read servers </proc/$$/task/$$/children; echo $servers; read line"});
+    process.start(privateNetwork,
+                  servers + QStringList{"sh", "-c",
+                                        "read servers </proc/$$/task/$$/children; echo $servers; read line"});
     QVERIFY(process.waitForReadyRead());
-    const auto servers = process.readAll().simplified().split(' ');
-    QCOMPARE(servers.size(), 7);
-    for (const auto& server : servers)
+    const auto processes = process.readAll().simplified().split(' ');
+    QTEST(processes.size(), "number");
+    for (const auto& server : processes)
         QVERIFY(isRunning(server.toLongLong()));
 
     if (signal != 0)
@@ -175,7 +216,7 @@ void TestNetworkScripts::serversEndWithTheCommand()
     else
         process.write("\n");
     QVERIFY(process.waitForFinished());
-    for (const auto& server : servers)
+    for (const auto& server : processes)
         QTRY_VERIFY(!isRunning(server.toLongLong()));
 }
 
