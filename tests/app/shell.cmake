@@ -1,7 +1,7 @@
 # The window as it stands: its form, its states, the setup panel, the text lines; and the program as a whole.
 brumalogger_add_test(tst_devicetext SOURCES tst_devicetext.cpp LINK brumalogger_app)
 brumalogger_add_test(tst_stepprogress SOURCES tst_stepprogress.cpp LINK brumalogger_app X11)
-foreach(concern form layout shell changes copying guide setup range texts zone)
+foreach(concern form layout shell changes copying guide setup range texts zone about)
   brumalogger_add_test(tst_mainwindow_${concern} SOURCES tst_mainwindow_${concern}.cpp
     LINK brumalogger_proceduretests MOCK X11)
 endforeach()
@@ -35,6 +35,19 @@ brumalogger_add_test(tst_mainwindow_servers SOURCES tst_mainwindow_servers.cpp
   LINK brumalogger_proceduretests
   MOCK TIME_SERVERS
 )
+brumalogger_add_test(tst_mainwindow_updates SOURCES updaterig.cpp updaterig.h tst_mainwindow_updates.cpp
+  LINK brumalogger_proceduretests brumalogger_update brumalogger_webtests
+  MOCK NETWORK X11
+)
+brumalogger_add_test(tst_mainwindow_prompts SOURCES updaterig.cpp updaterig.h tst_mainwindow_prompts.cpp
+  LINK brumalogger_proceduretests brumalogger_update brumalogger_webtests
+  MOCK NETWORK
+)
+brumalogger_add_test(tst_mainwindow_updatecheck SOURCES tst_mainwindow_updatecheck.cpp
+  LINK brumalogger_proceduretests brumalogger_update brumalogger_webtests
+  MOCK WEB_SERVER
+)
+target_compile_definitions(tst_mainwindow_about PRIVATE PROGRAM_VERSION="${PROJECT_VERSION}")
 target_compile_definitions(tst_mainwindow_layout PRIVATE FORM_FILE="${PROJECT_SOURCE_DIR}/app/mainwindow.ui")
 
 # The program's main function inside a test, which is the only way to look at its widgets.

@@ -262,7 +262,9 @@ void TestMainWindowForm::advancedButton()
 // The class has slots in a fixed order, no others and no signals.
 void TestMainWindowForm::slotsInOrder()
 {
-    const QStringList told = {"plConnect()",
+    const QStringList told = {"lUpdateAvailable(QString,QString)",
+                              "lUpdateMandatory(QString,QString)",
+                              "plConnect()",
                               "plSave()",
                               "plLoad()",
                               "plReadFromDevice()",

@@ -160,3 +160,25 @@ void WindowWords::expectStartFailed(DialogRobot& robot)
 {
     robot.expectInformation(QStringLiteral("Error"), QStringLiteral("Failed to start the device"));
 }
+
+void WindowWords::expectUpdate(DialogRobot& robot, const QString& version, QMessageBox::StandardButton answer)
+{
+    robot.expectPlain(QStringLiteral("Update Available"),
+                      QStringLiteral("Brumalogger Configuration Tool v") + version +
+                          QStringLiteral(" is available for download.<p></p>Updating your current version "
+                                         "(v1.3.3) is recommended.<p></p>Click Ok to download it.</center>"),
+                      QMessageBox::Ok | QMessageBox::Cancel, answer);
+}
+
+void WindowWords::expectMandatoryUpdate(DialogRobot& robot, const QString& version,
+                                        QMessageBox::StandardButton answer)
+{
+    robot.expectPlain(QStringLiteral("Update Required"),
+                      QStringLiteral("Brumalogger Configuration Tool v") + version +
+                          QStringLiteral(" is available for download.<p></p>Updating your current version "
+                                         "(v1.3.3) is mandatory.<p></p>This version contains important "
+                                         "changes, so the update <font color='red'>must</font> be "
+                                         "performed.<p></p>Click Ok to download it, or Cancel to quit the "
+                                         "application.</center>"),
+                      QMessageBox::Ok | QMessageBox::Cancel, answer);
+}

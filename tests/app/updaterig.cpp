@@ -1,0 +1,53 @@
+// A window beside a web server that does what a test tells it.
+
+#include "updaterig.h"
+
+#include "support/nextchance.h"
+#include "update/filedownloader.h"
+#include "update/updatechecker.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+UpdateRig::HeldServer::HeldServer(const QByteArray& file)
+{
+    setAnswer(httpAnswer(file));
+    hold();
+}
+
+UpdateRig::UpdateRig(const QByteArray& file, const Settings& settings)
+    : server(file)
+    , rig(settings)
+    , checker(rig.window.findChild<UpdateChecker*>())
+{
+    if (!QTest::qWaitFor([this] { return !server.requests().isEmpty(); }))
+        qFatal("nobody asks for the version file");
+}
+
+bool UpdateRig::prompt()
+{
+    const int before = rig.robot.boxes().size();
+    server.release();
+    return QTest::qWaitFor([this, before] { return rig.robot.boxes().size() > before; });
+}
+
+void UpdateRig::promptAt(int command)
+{
+    rig.atCommand(command, [this] { prompted = prompt(); });
+}
+
+void UpdateRig::promptOverTheNextBox()
+{
+    auto* once = new QObject(&rig.robot);
+    QObject::connect(&rig.robot, &DialogRobot::sBoxOpened, once, [this, once] {
+        delete once;
+        prompted = prompt();
+    });
+}
+
+bool UpdateRig::release()
+{
+    QSignalSpy downloaded(checker->findChild<FileDownloader*>(), &FileDownloader::downloaded);
+    server.release();
+    return downloaded.wait();
+}
