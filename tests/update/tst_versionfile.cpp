@@ -97,6 +97,7 @@ void TestVersionFile::news_data()
     row("two addresses", "1.4.0 win32:a win32:b\n", "1.4.0 may b");
     row("address and none", "1.4.0 win32:a win32:\n", "1.4.0 may");
     row("platform without colon", "1.4.0 win32\n", "1.4.0 may");
+    row("address and platform without colon", "1.4.0 win32:a win32\n", "1.4.0 may a");
     row("address with a port", "1.4.0 win32:http://get.example:8080/a:b\n",
         "1.4.0 may http://get.example:8080/a:b");
     row("address on an older line only", "1.4.0\n1.3.5 win32:b\n", "1.4.0 may");
