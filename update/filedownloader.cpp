@@ -12,7 +12,7 @@ FileDownloader::FileDownloader(const QUrl& url, QObject* parent)
     connect(&networkManager, &QNetworkAccessManager::finished, this, &FileDownloader::fileDownloaded);
     QNetworkRequest request(url);
     request.setRawHeader("User-Agent", "Mozilla Firefox");
-    // All that Qt 5 has in every version; the latest would rather see a policy, which says no more.
+    // Deprecated in favour of a choice of policies; this stands for the one of no less safety.
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
     request.setAttribute(QNetworkRequest::FollowRedirectsAttribute, true);

@@ -7,7 +7,7 @@
 class QNetworkReply;
 class QUrl;
 
-/// Fetches one file over HTTP, following redirects, as far as its safety does not get less on the way.
+/// Fetches one file over HTTP, following redirects unless they lead from HTTPS to HTTP.
 ///
 /// Nothing goes wrong here: whatever body came is the file, also that of an error page or one cut off, and it
 /// is empty if none came. There is no time-out; a server that never answers brings no signal.

@@ -43,6 +43,11 @@ brumalogger_add_test(tst_mainwindow_prompts SOURCES updaterig.cpp updaterig.h ts
   LINK brumalogger_proceduretests brumalogger_update brumalogger_webtests
   MOCK NETWORK
 )
+brumalogger_add_test(tst_mainwindow_promptanswers
+  SOURCES timerig.cpp timerig.h updaterig.cpp updaterig.h tst_mainwindow_promptanswers.cpp
+  LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time brumalogger_update brumalogger_webtests
+  MOCK NETWORK
+)
 brumalogger_add_test(tst_mainwindow_updatecheck SOURCES tst_mainwindow_updatecheck.cpp
   LINK brumalogger_proceduretests brumalogger_update brumalogger_webtests
   MOCK WEB_SERVER

@@ -8,7 +8,6 @@
 #include "windowwords.h"
 
 #include <QAction>
-#include <QDialog>
 #include <QTest>
 
 using namespace WindowWords;

@@ -1,6 +1,5 @@
 // The prompts for a newer version, from the answer of the web server to the browser.
 
-#include "support/nextchance.h"
 #include "update/filedownloader.h"
 #include "updaterig.h"
 #include "windowstate.h"

@@ -2,7 +2,6 @@
 
 #include "updaterig.h"
 
-#include "support/nextchance.h"
 #include "update/filedownloader.h"
 #include "update/updatechecker.h"
 
