@@ -233,7 +233,7 @@ void MainWindow::plRejectDeviceDialogs()
 {
     rejectAll({advancedOptionsDialog.data(), timeZoneDialog.data(), disclaimer});
     for (QFileDialog* dialog : findChildren<QFileDialog*>(QString(), Qt::FindDirectChildrenOnly))
-        reject(dialog);
+        rejectAll({dialog});
 }
 
 void MainWindow::plDisableControls(bool disabled)

@@ -254,7 +254,7 @@ private:
     QSharedPointer<SettingsDialog> settingsDialog;
     QSharedPointer<PresetStorage> presetStorage; ///< for all presets
     QSharedPointer<UpdateChecker> updateChecker;
-    QSharedPointer<GuideDialog> guideDialog;     ///< a window of its own
+    QSharedPointer<GuideDialog> guideDialog; ///< a window of its own
     QSharedPointer<TimeManager> timeManager;
     QSharedPointer<TimeZoneDialog> timeZoneDialog;
     QSharedPointer<PasswordDialog> passwordDialog;

@@ -119,7 +119,7 @@ void MainWindow::plSave()
     QString name =
         QFileDialog::getSaveFileName(this, tr("Save to preset"), presetFolder(), QLatin1String(fileFilter))
             .trimmed();
-    if (name.isEmpty())
+    if (name.isEmpty() || !plDeviceStays())
         return;
     if (!name.endsWith(QLatin1String(fileSuffix)))
         name += QLatin1String(fileSuffix);
@@ -142,7 +142,7 @@ void MainWindow::plLoad()
     const QString path =
         QFileDialog::getOpenFileName(this, tr("Load preset"), presetFolder(), QLatin1String(fileFilter))
             .trimmed();
-    if (!path.isEmpty())
+    if (!path.isEmpty() && plDeviceStays())
         loadPresetFile(path);
 }
 

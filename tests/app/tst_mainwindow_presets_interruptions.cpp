@@ -11,6 +11,8 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QDir>
+#include <QFile>
+#include <QLineEdit>
 #include <QTest>
 
 #include <functional>
@@ -105,6 +107,9 @@ private slots:
     void timeComesAtAWarning();
     void deviceIsInvalidAtTheFileDialog_data() { bothDialogs(); }
     void deviceIsInvalidAtTheFileDialog();
+    void fileChosenWhileTheDeviceIsJudged_data() { bothDialogs(); }
+    void fileChosenWhileTheDeviceIsJudged();
+    void replacingIsNotAskedOnForALostDevice();
 
 private:
     static void bothDialogs();
@@ -283,6 +288,57 @@ void TestMainWindowPresetsInterruptions::deviceIsInvalidAtTheFileDialog()
     rig.trigger(action);
     QVERIFY(answered.came);
     QCOMPARE(panels(rig), emptyPanels());
+    QCOMPARE(presetIn(path), milkPreset());
+    QCOMPARE(differences(rig, disconnected()), QString());
+}
+
+// The file dialog is accepted just before the device turns out to be invalid.
+void TestMainWindowPresetsInterruptions::fileChosenWhileTheDeviceIsJudged()
+{
+    QFETCH(const QByteArray, action);
+    AnsweredRig answered(3 * dayMsecs);
+    PresetRig& rig = answered.rig;
+    rig.plugAndConnect();
+    const QString taken = rig.document(QStringLiteral("own.bpr"));
+    const QString fresh = rig.document(QStringLiteral("new.bpr"));
+    writePreset(taken, milkPreset());
+    rig.hand.setPath({});
+    expectInvalidDevice(rig.robot);
+    connect(&rig.hand, &FileDialogHand::sOpened, &rig.window, [&](QFileDialog* dialog) {
+        rig.atCommand(1, [&, dialog] {
+            dialog->findChild<QLineEdit*>()->setText(dialog->acceptMode() == QFileDialog::AcceptSave ? fresh
+                                                                                                     : taken);
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+        answered.servers.release();
+        answered.came = rig.comesTo(QStringLiteral("Disconnected from ttyACM0"));
+    });
+    rig.trigger(action);
+    QVERIFY(answered.came);
+    QVERIFY(!QFile::exists(fresh));
+    QCOMPARE(panels(rig), emptyPanels());
+    QCOMPARE(differences(rig, disconnected()), QString());
+}
+
+void TestMainWindowPresetsInterruptions::replacingIsNotAskedOnForALostDevice()
+{
+    AnsweredRig answered(3 * dayMsecs);
+    PresetRig& rig = answered.rig;
+    rig.plugAndConnect();
+    const QString path = rig.document(QStringLiteral("own.bpr"));
+    writePreset(path, milkPreset());
+    expectInvalidDevice(rig.robot); // over the question, and so answered first
+    rig.robot.expectWarningQuestion(QStringLiteral("Save to preset"),
+                                    QStringLiteral("own.bpr already exists.\nDo you want to replace it?"),
+                                    Yes);
+    connect(&rig.robot, &DialogRobot::sBoxOpened, &rig.window, [&](const QString& title) {
+        if (title != QStringLiteral("Save to preset"))
+            return;
+        answered.servers.release();
+        answered.came = rig.comesTo(QStringLiteral("Disconnected from ttyACM0"));
+    });
+    rig.save(path);
+    QVERIFY(answered.came);
     QCOMPARE(presetIn(path), milkPreset());
     QCOMPARE(differences(rig, disconnected()), QString());
 }

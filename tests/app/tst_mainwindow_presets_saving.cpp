@@ -3,8 +3,8 @@
 #include "dialogs/advancedoptionsdialog.h"
 #include "extendedrig.h"
 #include "presetrig.h"
-#include "support/loglines.h"
 #include "setuppanel.h"
+#include "support/loglines.h"
 #include "windowstate.h"
 
 #include <QCheckBox>

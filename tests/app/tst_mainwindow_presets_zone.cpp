@@ -46,9 +46,9 @@ void expectDisabled(DialogRobot& robot, const QString& zone)
 }
 
 /// A window with a reference time.
-struct SynchronisedRig
+struct SynchronisedPresetRig
 {
-    explicit SynchronisedRig(const LoggerModel& model)
+    explicit SynchronisedPresetRig(const LoggerModel& model)
         : rig(timeAndPresets())
     {
         servers.answer(NtpAnswer::currentTime());
@@ -70,7 +70,7 @@ bool isBold(const PresetRig& rig)
 qint64 secondsAhead(const PresetRig& rig)
 {
     QDateTime time =
-        QLocale::c().toDateTime(rig.text("labelDateTime"), QStringLiteral("hh:mm:ss dd/MMM/yyyy"));
+        QLocale::system().toDateTime(rig.text("labelDateTime"), QStringLiteral("hh:mm:ss dd/MMM/yyyy"));
     time.setTimeSpec(Qt::UTC);
     return QDateTime::currentDateTimeUtc().secsTo(time);
 }
@@ -120,7 +120,7 @@ void TestMainWindowPresetsZone::adopted()
 {
     QFETCH(const QString, zone);
     QFETCH(const int, offset);
-    SynchronisedRig synchronised(secureLogger());
+    SynchronisedPresetRig synchronised(secureLogger());
     PresetRig& rig = synchronised.rig;
     rig.apply(presetOfZone(zone));
     QCOMPARE(rig.text("labelTimeZone"), zone.isEmpty() ? QStringLiteral("GMT") : zone);
@@ -133,7 +133,7 @@ void TestMainWindowPresetsZone::adopted()
 
 void TestMainWindowPresetsZone::unknownIsTheDefault()
 {
-    SynchronisedRig synchronised(secureLogger());
+    SynchronisedPresetRig synchronised(secureLogger());
     PresetRig& rig = synchronised.rig;
     const QString shown = rig.text("labelTimeZone");
     rig.apply(presetOfZone(QStringLiteral("gmt+2:00")));
@@ -148,7 +148,7 @@ void TestMainWindowPresetsZone::unknownIsTheDefault()
 // In place of the preset's own information.
 void TestMainWindowPresetsZone::reportOfOlderLoggersSaysIt()
 {
-    SynchronisedRig synchronised(basicLogger());
+    SynchronisedPresetRig synchronised(basicLogger());
     PresetRig& rig = synchronised.rig;
     rig.apply(presetOfZone(QStringLiteral("GMT")));
     QCOMPARE(rig.text("lineInfo"), QStringLiteral("Batch 7"));
@@ -170,7 +170,7 @@ void TestMainWindowPresetsZone::zoneOfTheDeviceIsNotInForceAnyMore_data()
 void TestMainWindowPresetsZone::zoneOfTheDeviceIsNotInForceAnyMore()
 {
     QFETCH(const bool, timeEnabled);
-    SynchronisedRig synchronised(secureLogger());
+    SynchronisedPresetRig synchronised(secureLogger());
     PresetRig& rig = synchronised.rig;
     rig.check("checkDisableTime", true);
     QMetaObject::invokeMethod(&rig.window, "plSettingsAccepted");
@@ -187,7 +187,7 @@ void TestMainWindowPresetsZone::zoneOfTheDeviceIsNotInForceAnyMore()
 
 void TestMainWindowPresetsZone::adoptedZoneIsSaved()
 {
-    SynchronisedRig synchronised(secureLogger());
+    SynchronisedPresetRig synchronised(secureLogger());
     PresetRig& rig = synchronised.rig;
     rig.apply(presetOfZone(QStringLiteral("GMT-3:30")));
     rig.save(rig.document(QStringLiteral("own")));
@@ -242,7 +242,7 @@ void TestMainWindowPresetsZone::disabled()
 {
     QFETCH(const QString, zone);
     QFETCH(const bool, warned);
-    SynchronisedRig synchronised(aheadLogger(7200));
+    SynchronisedPresetRig synchronised(aheadLogger(7200));
     PresetRig& rig = synchronised.rig;
     rig.check("checkDisableTime", true);
     rig.takeStatusLog();
@@ -268,7 +268,7 @@ void TestMainWindowPresetsZone::missingZone()
 // A query that fails after one that didn't takes the reference time away.
 void TestMainWindowPresetsZone::referenceTimeOfOtherDays()
 {
-    SynchronisedRig synchronised(secureLogger());
+    SynchronisedPresetRig synchronised(secureLogger());
     PresetRig& rig = synchronised.rig;
     synchronised.servers.answer(NtpAnswer::silence());
     rig.check("checkUsePool", true);

@@ -47,6 +47,12 @@ void DialogRobot::expectQuestion(const QString& title, const QString& text,
     expect({QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No}, answer);
 }
 
+void DialogRobot::expectWarningQuestion(const QString& title, const QString& text,
+                                        QMessageBox::StandardButton answer)
+{
+    expect({QMessageBox::Warning, title, text, QMessageBox::Yes | QMessageBox::No}, answer);
+}
+
 void DialogRobot::expectPlain(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
                               QMessageBox::StandardButton answer)
 {

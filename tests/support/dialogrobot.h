@@ -30,6 +30,8 @@ public:
     /// A warning that can be cancelled.
     void expectChoice(const QString& title, const QString& text, QMessageBox::StandardButton answer);
     void expectQuestion(const QString& title, const QString& text, QMessageBox::StandardButton answer);
+    /// A question with the icon of a warning, as the toolkit's own about a file that exists.
+    void expectWarningQuestion(const QString& title, const QString& text, QMessageBox::StandardButton answer);
     /// A box without an icon.
     void expectPlain(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
                      QMessageBox::StandardButton answer);
