@@ -15,7 +15,7 @@ using namespace WindowWords;
 
 namespace {
 
-constexpr qint64 fiveHours = 5 * 3600 * 1000; // ms
+constexpr qint64 fiveHours = Q_INT64_C(5) * 3600 * 1000; // ms
 
 /// A synchronising write, whose "u" stands without its seconds.
 QList<QByteArray> writeCommands(bool extended)

@@ -13,7 +13,7 @@ using namespace WindowWords;
 
 namespace {
 
-constexpr qint64 threeDays = 3 * 86400; // seconds
+constexpr qint64 threeDays = Q_INT64_C(3) * 86400; // seconds
 const QString invalid = QStringLiteral("Invalid device detected.");
 const QString gone = QStringLiteral("Disconnected from ttyACM0");
 
