@@ -9,7 +9,6 @@
 #include <QLayout>
 #include <QMessageBox>
 #include <QScopedValueRollback>
-#include <QTimer>
 #include <QVector>
 
 namespace {
@@ -68,6 +67,8 @@ AdvancedOptionsDialog::AdvancedOptionsDialog(QWidget* parent)
 {
     ui->setupUi(this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    putOffClosing.setSingleShot(true);
+    connect(&putOffClosing, &QTimer::timeout, this, &QDialog::reject);
     plConnectSignals();
 }
 
@@ -128,7 +129,7 @@ void AdvancedOptionsDialog::showEvent(QShowEvent* event)
     plFitSize();
     QDialog::showEvent(event);
     if (closingPutOff)
-        QTimer::singleShot(0, this, &QDialog::reject);
+        putOffClosing.start(0);
     closingPutOff = false;
 }
 

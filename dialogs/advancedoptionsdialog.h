@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QDialog>
 #include <QString>
+#include <QTimer>
 
 namespace Ui {
 class AdvancedOptionsDialog;
@@ -115,4 +116,5 @@ private:
     bool multiuse = false;
     bool filling = false;       ///< the warning of a long password may be open meanwhile
     bool closingPutOff = false; ///< until the dialog is on the screen
+    QTimer putOffClosing;
 };
