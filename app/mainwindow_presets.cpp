@@ -11,6 +11,7 @@
 
 #include <QDebug>
 #include <QFileDialog>
+#include <QLocale>
 #include <QScopedValueRollback>
 #include <QStandardPaths>
 
@@ -45,7 +46,8 @@ std::optional<QString> dateText(const AdvancedOptionsDialog& options, DateGetter
     bool enabled = false;
     QDateTime date;
     (options.*getter)(&enabled, &date);
-    return enabled ? std::optional(date.toString(format)) : std::nullopt;
+    // In the digits that every computer reads.
+    return enabled ? std::optional(QLocale::c().toString(date, format)) : std::nullopt;
 }
 
 void adoptPolicies(AdvancedOptionsDialog& options, const QString& text)

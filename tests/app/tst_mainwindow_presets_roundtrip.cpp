@@ -1,4 +1,5 @@
-// Every combination that the setup panel offers, saved to a preset and loaded back.
+// Every combination of sampling time, start delay and range that the setup panel offers, with each shipment
+// type and lock in turn, saved to a preset and loaded back.
 
 #include "presetrig.h"
 #include "setuppanel.h"

@@ -5,9 +5,11 @@
 #include "timerig.h"
 #include "windowstate.h"
 #include "windowwords.h"
+#include "zoneaccess.h"
 
 #include "dialogs/settingsdialog.h"
 
+#include <QDateTime>
 #include <QTest>
 
 using namespace TimeWords;
@@ -49,6 +51,7 @@ private slots:
     void otherTimeComes();
     void otherTimeIsAskedFor_data() { addSynchronisationRows(); }
     void otherTimeIsAskedFor();
+    void sendsTheTimeOfTheMoment();
 };
 
 void TestMainWindowTimeSyncFaults::windowIsClosed()
@@ -102,6 +105,21 @@ void TestMainWindowTimeSyncFaults::otherTimeIsAskedFor()
     QCOMPARE(withoutSeconds(rig.wire()), writeCommands(extended));
     QVERIFY(qAbs(rig.logger->model().settings().clockOffset) <= 2);
     QCOMPARE(differences(rig, idle(QStringLiteral("Write successful"), false)), QString());
+}
+
+// The window's clock is looked at when the zone has been taken: meanwhile it may have ticked, or here, to be
+// seen better, gone over to another zone.
+void TestMainWindowTimeSyncFaults::sendsTheTimeOfTheMoment()
+{
+    SynchronisedRig synchronised(secureLogger());
+    TimeRig& rig = synchronised.rig;
+    rig.atCommand(2, [&rig] { setZone(rig.window, QStringLiteral("GMT+5:00")); });
+    rig.press("buttonWrite");
+    QCOMPARE(withoutSeconds(rig.wire()), writeCommands(true));
+    const qint64 sent = rig.wire().value(2).mid(1).toLongLong();
+    const qint64 shown = QDateTime::currentSecsSinceEpoch() + Q_INT64_C(5) * 3600;
+    QVERIFY2(qAbs(sent - (shown - 7200)) < 30, QByteArray::number(sent));
+    QCOMPARE(rig.robot.problems(), QString());
 }
 
 QTEST_MAIN(TestMainWindowTimeSyncFaults)
