@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>&lt;p&gt;Upon USB connection in the DONE state, device will automatically appear as a USB thumb drive containing the reports.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Beim USB-Anschluss im Zustand DONE erscheint das Gerät automatisch als USB-Stick mit den Berichten.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Beim Anschließen per USB im Zustand DONE erscheint das Gerät automatisch als USB-Stick mit den Berichten.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Require password only to access report for the first time</source>
@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>&lt;p&gt;Upon USB connection in the DONE state, the device will require the password only &lt;b&gt;once&lt;/b&gt; to generate the reports. The device must be unlocked using this tool. After unlocking, it will &lt;b&gt;always&lt;/b&gt; appear as a USB thumb drive with the reports.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Beim USB-Anschluss im Zustand DONE verlangt das Gerät das Passwort nur &lt;b&gt;einmal&lt;/b&gt;, um die Berichte zu erstellen. Das Gerät muss mit dieser Software entsperrt werden. Nach dem Entsperren erscheint es &lt;b&gt;immer&lt;/b&gt; als USB-Stick mit den Berichten.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Beim Anschließen per USB im Zustand DONE verlangt das Gerät das Passwort nur &lt;b&gt;einmal&lt;/b&gt;, um die Berichte zu erstellen. Das Gerät muss mit dieser Software entsperrt werden. Nach dem Entsperren erscheint es &lt;b&gt;immer&lt;/b&gt; als USB-Stick mit den Berichten.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Require password always when accessing reports</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Upon &lt;span style=&quot; font-weight:600;&quot;&gt;every&lt;/span&gt; USB connection in the DONE state, the device will require the password to display the reports. The device must be unlocked using this tool. After unlocking, it will appear as a USB thumb drive with the reports until it is disconnected.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Bei &lt;span style=&quot; font-weight:600;&quot;&gt;jedem&lt;/span&gt; USB-Anschluss im Zustand DONE verlangt das Gerät das Passwort, um die Berichte anzuzeigen. Das Gerät muss mit dieser Software entsperrt werden. Nach dem Entsperren erscheint es als USB-Stick mit den Berichten, bis es getrennt wird.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Bei &lt;span style=&quot; font-weight:600;&quot;&gt;jedem&lt;/span&gt; Anschließen per USB im Zustand DONE verlangt das Gerät das Passwort, um die Berichte anzuzeigen. Das Gerät muss mit dieser Software entsperrt werden. Nach dem Entsperren erscheint es als USB-Stick mit den Berichten, bis es getrennt wird.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Password:</source>
@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>Start &amp;&amp; Stop Policies</source>
-        <translation>Start- &amp;&amp; Stoppregeln</translation>
+        <translation>Start- und Stoppregeln</translation>
     </message>
     <message>
         <source>Allow START via physical button</source>
@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>STOP device immediately when attached to USB port</source>
-        <translation>STOP sofort beim Anschließen an einen USB-Anschluss</translation>
+        <translation>STOP sofort beim Einstecken in einen USB-Anschluss</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Allows a device in the RECORDING state to immediately STOP into the DONE state when attached to an USB port. The &lt;span style=&quot; font-style:italic;&quot;&gt;Brumalogger Configuration Tool&lt;/span&gt; is &lt;span style=&quot; font-weight:600;&quot;&gt;not&lt;/span&gt; required.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Ein Gerät im Zustand RECORDING führt beim Anschließen an einen USB-Anschluss sofort STOP aus und wechselt in den Zustand DONE. Das &lt;span style=&quot; font-style:italic;&quot;&gt;Brumalogger Configuration Tool&lt;/span&gt; ist dafür &lt;span style=&quot; font-weight:600;&quot;&gt;nicht&lt;/span&gt; erforderlich.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Ein Gerät im Zustand RECORDING führt beim Einstecken in einen USB-Anschluss sofort STOP aus und wechselt in den Zustand DONE. Das &lt;span style=&quot; font-style:italic;&quot;&gt;Brumalogger Configuration Tool&lt;/span&gt; ist dafür &lt;span style=&quot; font-weight:600;&quot;&gt;nicht&lt;/span&gt; erforderlich.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>START automatically on: -</source>
@@ -361,7 +361,7 @@ Ihre Eingabe wurde gekürzt.</translation>
     </message>
     <message>
         <source>Information:</source>
-        <translation>Information:</translation>
+        <translation>Informationen:</translation>
     </message>
     <message>
         <source>Tracking Information (optional)</source>
@@ -763,7 +763,7 @@ Wenn das Problem weiterhin besteht, wählen Sie &lt;b&gt;Schnelles Lesen/Schreib
     </message>
     <message>
         <source>&lt;p&gt;There are automatic START/STOP dates that were configured using a different Time Zone setting. Please review these settings in the &lt;b&gt;Advanced Options&lt;/b&gt; menu.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Es gibt automatische START-/STOP-Zeitpunkte, die mit einer anderen Zeitzone eingestellt wurden. Bitte prüfen Sie diese Einstellungen im Menü &lt;b&gt;Erweiterte Optionen&lt;/b&gt;.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Das automatische START- und/oder STOP-Datum wurde mit einer anderen Zeitzone eingestellt. Bitte prüfen Sie diese Einstellungen im Menü &lt;b&gt;Erweiterte Optionen&lt;/b&gt;.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -842,7 +842,7 @@ Die Zeitzone wird ignoriert.</translation>
     </message>
     <message>
         <source>Information:</source>
-        <translation>Information:</translation>
+        <translation>Informationen:</translation>
     </message>
     <message>
         <source>More...</source>
