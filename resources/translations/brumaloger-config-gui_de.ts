@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>&lt;p&gt;&lt;em&gt;Hover the mouse over any item for more information.&lt;/em&gt;&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;em&gt;Für mehr Informationen den Mauszeiger auf einen Eintrag bewegen.&lt;/em&gt;&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;&lt;em&gt;Für weitere Informationen den Mauszeiger über eine Option bewegen.&lt;/em&gt;&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Security</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Allow the START of the device (entering RECORDING mode) via the &lt;span style=&quot; font-weight:600;&quot;&gt;Multifunction Button &lt;/span&gt;(i.e., via two &lt;span style=&quot; font-style:italic;&quot;&gt;5 second clicks&lt;/span&gt;, or via 12 short clicks).&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Erlaubt den START des Geräts (Wechsel in den Modus RECORDING) über die &lt;span style=&quot; font-weight:600;&quot;&gt;Multifunktionstaste &lt;/span&gt;(d.&#xa0;h. durch zwei &lt;span style=&quot; font-style:italic;&quot;&gt;Tastendrücke von 5 Sekunden&lt;/span&gt; oder durch 12 kurze Tastendrücke).&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Erlaubt den START des Geräts (Wechsel in den Modus RECORDING) über die &lt;span style=&quot; font-weight:600;&quot;&gt;Multifunktionstaste &lt;/span&gt;(d.&#xa0;h. durch zwei &lt;span style=&quot; font-style:italic;&quot;&gt;Tastendrücke von je 5 Sekunden&lt;/span&gt; oder durch 12 kurze Tastendrücke).&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Allow START via software tool</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Allow the STOP of the device (entering DONE mode) via the &lt;span style=&quot; font-weight:600;&quot;&gt;Multifunction Button &lt;/span&gt;(i.e., via two &lt;span style=&quot; font-style:italic;&quot;&gt;5 second clicks&lt;/span&gt;, or via 12 short clicks).&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Erlaubt den STOP des Geräts (Wechsel in den Modus DONE) über die &lt;span style=&quot; font-weight:600;&quot;&gt;Multifunktionstaste &lt;/span&gt;(d.&#xa0;h. durch zwei &lt;span style=&quot; font-style:italic;&quot;&gt;Tastendrücke von 5 Sekunden&lt;/span&gt; oder durch 12 kurze Tastendrücke).&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Erlaubt den STOP des Geräts (Wechsel in den Modus DONE) über die &lt;span style=&quot; font-weight:600;&quot;&gt;Multifunktionstaste &lt;/span&gt;(d.&#xa0;h. durch zwei &lt;span style=&quot; font-style:italic;&quot;&gt;Tastendrücke von je 5 Sekunden&lt;/span&gt; oder durch 12 kurze Tastendrücke).&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>STOP device immediately when attached to USB port</source>
@@ -101,19 +101,19 @@
     </message>
     <message>
         <source>START automatically on: -</source>
-        <translation>Automatischer START am: -</translation>
+        <translation>Automatischer START: -</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Device will automatically START on set date. Time zone is the same as configured on the device.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Das Gerät führt zum eingestellten Datum automatisch START aus. Es gilt die auf dem Gerät eingestellte Zeitzone.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Das Gerät führt zum eingestellten Zeitpunkt automatisch START aus. Es gilt die auf dem Gerät eingestellte Zeitzone.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>STOP automatically on: -</source>
-        <translation>Automatischer STOP am: -</translation>
+        <translation>Automatischer STOP: -</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Device will automatically STOP on set date. Time zone is the same as configured on the device.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Das Gerät führt zum eingestellten Datum automatisch STOP aus. Es gilt die auf dem Gerät eingestellte Zeitzone.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Das Gerät führt zum eingestellten Zeitpunkt automatisch STOP aus. Es gilt die auf dem Gerät eingestellte Zeitzone.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Multiuse device options</source>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Changes will take full effect upon disconnecting the Brumalogger from the USB port.&lt;/span&gt;&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Die Änderungen gelten vollständig, sobald der Brumalogger vom USB-Anschluss getrennt ist.&lt;/span&gt;&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Die Änderungen werden erst vollständig wirksam, wenn der Brumalogger vom USB-Anschluss getrennt wird.&lt;/span&gt;&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Allow device RESET only after reports are generated</source>
@@ -167,11 +167,11 @@ Ihre Eingabe wurde gekürzt.</translation>
     </message>
     <message>
         <source>START automatically on: </source>
-        <translation>Automatischer START am: </translation>
+        <translation>Automatischer START: </translation>
     </message>
     <message>
         <source>STOP automatically on: </source>
-        <translation>Automatischer STOP am: </translation>
+        <translation>Automatischer STOP: </translation>
     </message>
     <message>
         <source>Now</source>
@@ -243,7 +243,7 @@ Ihre Eingabe wurde gekürzt.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Your current security configuration is &lt;b&gt;valid&lt;/b&gt;.&lt;br&gt; However, it only allows a RESET after the reports are generated, and &lt;em&gt;report generation&lt;/em&gt; is password protected.&lt;br&gt;Please note that, in such configuration, forgetting the device&apos;s password will render it inoperative and non-resettable.&lt;br&gt;Please store its password properly.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Ihre aktuelle Sicherheitskonfiguration ist &lt;b&gt;gültig&lt;/b&gt;.&lt;br&gt; Sie erlaubt einen RESET jedoch erst nach Erstellung der Berichte, und die &lt;em&gt;Erstellung der Berichte&lt;/em&gt; ist passwortgeschützt.&lt;br&gt;Bitte beachten Sie: Wird bei dieser Konfiguration das Passwort des Geräts vergessen, ist das Gerät unbrauchbar und kein RESET mehr möglich.&lt;br&gt;Bitte bewahren Sie das Passwort sorgfältig auf.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Ihre aktuelle Sicherheitskonfiguration ist &lt;b&gt;gültig&lt;/b&gt;.&lt;br&gt; Sie erlaubt einen RESET jedoch erst nach Erstellung der Berichte, und die &lt;em&gt;Erstellung der Berichte&lt;/em&gt; ist passwortgeschützt.&lt;br&gt;Bitte beachten Sie: Wird bei dieser Konfiguration das Passwort des Geräts vergessen, ist das Gerät unbrauchbar, und ein RESET ist nicht mehr möglich.&lt;br&gt;Bitte bewahren Sie das Passwort sorgfältig auf.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -547,15 +547,15 @@ Es kann keine Verbindung hergestellt werden. Vorgang abgebrochen.</translation>
     </message>
     <message>
         <source>server pool</source>
-        <translation>Serverpool</translation>
+        <translation>dem Serverpool</translation>
     </message>
     <message>
         <source>Successfully fetched time and date from %1.</source>
-        <translation>Datum und Uhrzeit erhalten von %1.</translation>
+        <translation>Datum und Uhrzeit erfolgreich von %1 abgerufen.</translation>
     </message>
     <message>
         <source>Unable to fetch date and time from %1. Check your connections or try another server.</source>
-        <translation>Datum und Uhrzeit nicht erhalten von %1. Prüfen Sie Ihre Verbindungen oder versuchen Sie es mit einem anderen Server.</translation>
+        <translation>Datum und Uhrzeit konnten nicht von %1 abgerufen werden. Prüfen Sie Ihre Verbindungen oder versuchen Sie es mit einem anderen Server.</translation>
     </message>
     <message>
         <source>Copy as text...</source>
