@@ -641,31 +641,31 @@ Möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>2°C to 8°C</source>
-        <translation>2°C bis 8°C</translation>
+        <translation>2&#xa0;°C bis 8&#xa0;°C</translation>
     </message>
     <message>
         <source>-10°C to -1°C</source>
-        <translation>-10°C bis -1°C</translation>
+        <translation>-10&#xa0;°C bis -1&#xa0;°C</translation>
     </message>
     <message>
         <source>-8°C to -2°C</source>
-        <translation>-8°C bis -2°C</translation>
+        <translation>-8&#xa0;°C bis -2&#xa0;°C</translation>
     </message>
     <message>
         <source>2°C to 25°C</source>
-        <translation>2°C bis 25°C</translation>
+        <translation>2&#xa0;°C bis 25&#xa0;°C</translation>
     </message>
     <message>
         <source>15°C to 25°C</source>
-        <translation>15°C bis 25°C</translation>
+        <translation>15&#xa0;°C bis 25&#xa0;°C</translation>
     </message>
     <message>
         <source>15°C to 30°C</source>
-        <translation>15°C bis 30°C</translation>
+        <translation>15&#xa0;°C bis 30&#xa0;°C</translation>
     </message>
     <message>
         <source>-30°C to -15°C</source>
-        <translation>-30°C bis -15°C</translation>
+        <translation>-30&#xa0;°C bis -15&#xa0;°C</translation>
     </message>
     <message>
         <source>Custom</source>
