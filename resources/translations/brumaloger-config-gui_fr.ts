@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>Start &amp;&amp; Stop Policies</source>
-        <translation>Règles de démarrage &amp;&amp; d&apos;arrêt</translation>
+        <translation>Règles de démarrage et d&apos;arrêt</translation>
     </message>
     <message>
         <source>Allow START via physical button</source>
@@ -641,31 +641,31 @@ Voulez-vous continuer&#xa0;?</translation>
     </message>
     <message>
         <source>2°C to 8°C</source>
-        <translation>2°C à 8°C</translation>
+        <translation>2&#xa0;°C à 8&#xa0;°C</translation>
     </message>
     <message>
         <source>-10°C to -1°C</source>
-        <translation>-10°C à -1°C</translation>
+        <translation>-10&#xa0;°C à -1&#xa0;°C</translation>
     </message>
     <message>
         <source>-8°C to -2°C</source>
-        <translation>-8°C à -2°C</translation>
+        <translation>-8&#xa0;°C à -2&#xa0;°C</translation>
     </message>
     <message>
         <source>2°C to 25°C</source>
-        <translation>2°C à 25°C</translation>
+        <translation>2&#xa0;°C à 25&#xa0;°C</translation>
     </message>
     <message>
         <source>15°C to 25°C</source>
-        <translation>15°C à 25°C</translation>
+        <translation>15&#xa0;°C à 25&#xa0;°C</translation>
     </message>
     <message>
         <source>15°C to 30°C</source>
-        <translation>15°C à 30°C</translation>
+        <translation>15&#xa0;°C à 30&#xa0;°C</translation>
     </message>
     <message>
         <source>-30°C to -15°C</source>
-        <translation>-30°C à -15°C</translation>
+        <translation>-30&#xa0;°C à -15&#xa0;°C</translation>
     </message>
     <message>
         <source>Custom</source>
