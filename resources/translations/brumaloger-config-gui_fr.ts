@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Require password for software configuration</source>
-        <translation>Exiger le mot de passe pour configurer par logiciel</translation>
+        <translation>Exiger le mot de passe pour configurer par le logiciel</translation>
     </message>
     <message>
         <source>&lt;p&gt;Requires password to perform any configuration via software tool.&lt;/p&gt;</source>
@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;A Multiuse logger can be RESET at &lt;span style=&quot; font-weight:600;&quot;&gt;any&lt;/span&gt; time.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Un RESET de l&apos;enregistreur Multiuse est possible à &lt;span style=&quot; font-weight:600;&quot;&gt;tout&lt;/span&gt; moment.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Le RESET d&apos;un enregistreur Multiuse est possible à &lt;span style=&quot; font-weight:600;&quot;&gt;tout&lt;/span&gt; moment.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Allow device RESET only after STOP</source>
@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;A Multiuse device can be RESET &lt;span style=&quot; font-weight:600;&quot;&gt;only&lt;/span&gt; in the DONE state (i.e., after measurements have been stopped).&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Un RESET de l&apos;appareil Multiuse est possible &lt;span style=&quot; font-weight:600;&quot;&gt;seulement&lt;/span&gt; à l&apos;état DONE (c&apos;est-à-dire après l&apos;arrêt des mesures).&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Le RESET d&apos;un appareil Multiuse est possible &lt;span style=&quot; font-weight:600;&quot;&gt;seulement&lt;/span&gt; à l&apos;état DONE (c&apos;est-à-dire après l&apos;arrêt des mesures).&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Changes will take full effect upon disconnecting the Brumalogger from the USB port.&lt;/span&gt;&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Les changements prendront pleinement effet au débranchement du Brumalogger du port USB.&lt;/span&gt;&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Les changements prendront pleinement effet une fois le Brumalogger débranché du port USB.&lt;/span&gt;&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Allow device RESET only after reports are generated</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;A Multiuse device can be RESET &lt;span style=&quot;font-weight:600;&quot;&gt;only&lt;/span&gt; in the DONE state (i.e., after measurements have been stopped) after viewing the reports at least once.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Un RESET de l&apos;appareil Multiuse est possible &lt;span style=&quot;font-weight:600;&quot;&gt;seulement&lt;/span&gt; à l&apos;état DONE (c&apos;est-à-dire après l&apos;arrêt des mesures) et après avoir consulté les rapports au moins une fois.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Le RESET d&apos;un appareil Multiuse est possible &lt;span style=&quot;font-weight:600;&quot;&gt;seulement&lt;/span&gt; à l&apos;état DONE (c&apos;est-à-dire après l&apos;arrêt des mesures) et après au moins une consultation des rapports.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Password too long</source>
@@ -345,7 +345,7 @@ Votre saisie a été tronquée.</translation>
     </message>
     <message>
         <source>Report Information (optional)</source>
-        <translation>Informations du rapport (facultatif)</translation>
+        <translation>Informations du rapport (facultatives)</translation>
     </message>
     <message>
         <source>Sender:</source>
@@ -365,7 +365,7 @@ Votre saisie a été tronquée.</translation>
     </message>
     <message>
         <source>Tracking Information (optional)</source>
-        <translation>Informations de suivi (facultatif)</translation>
+        <translation>Informations de suivi (facultatives)</translation>
     </message>
     <message>
         <source>Barcode on logger:</source>
@@ -703,7 +703,7 @@ Cette opération est irréversible.</translation>
     </message>
     <message>
         <source>Software START is disabled on this logger.</source>
-        <translation>START par logiciel est désactivé sur cet enregistreur.</translation>
+        <translation>Le START par logiciel est désactivé sur cet enregistreur.</translation>
     </message>
     <message>
         <source>Error</source>
@@ -932,7 +932,7 @@ Une fois l&apos;appareil déverrouillé, les rapports de mesure seront disponibl
     </message>
     <message>
         <source>Fetch time reference from time server instead of using local computer time.</source>
-        <translation>Obtient l&apos;heure de référence d&apos;un serveur de temps au lieu d&apos;utiliser l&apos;heure de l&apos;ordinateur.</translation>
+        <translation>Obtient l&apos;heure de référence auprès d&apos;un serveur de temps au lieu d&apos;utiliser l&apos;heure de l&apos;ordinateur.</translation>
     </message>
     <message>
         <source>Use multiple time servers (recommended)</source>
@@ -940,7 +940,7 @@ Une fois l&apos;appareil déverrouillé, les rapports de mesure seront disponibl
     </message>
     <message>
         <source>Fetch time reference from multiple servers. Using single servers is disencouraged, as they may send slightly outdated references.</source>
-        <translation>Obtient l&apos;heure de référence de plusieurs serveurs. L&apos;utilisation d&apos;un seul serveur est déconseillée, car il peut envoyer une heure légèrement en retard.</translation>
+        <translation>Obtient l&apos;heure de référence auprès de plusieurs serveurs. L&apos;utilisation d&apos;un seul serveur est déconseillée, car il peut envoyer une heure légèrement en retard.</translation>
     </message>
     <message>
         <source>General Device Settings</source>
@@ -952,7 +952,7 @@ Une fois l&apos;appareil déverrouillé, les rapports de mesure seront disponibl
     </message>
     <message>
         <source>Disables the standard fast Read/Write. Recommended if the computer is facing issues during Read/Write operations to the device.</source>
-        <translation>Désactive la lecture/écriture rapide utilisée par défaut. Recommandé si l&apos;ordinateur rencontre des problèmes lors de la lecture ou de l&apos;écriture de l&apos;appareil.</translation>
+        <translation>Désactive la lecture/écriture rapide utilisée par défaut. Recommandé si l&apos;ordinateur rencontre des problèmes lors des opérations de lecture ou d&apos;écriture sur l&apos;appareil.</translation>
     </message>
     <message>
         <source>Recommended</source>
