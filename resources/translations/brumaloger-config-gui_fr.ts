@@ -313,7 +313,7 @@ Votre saisie a été tronquée.</translation>
     </message>
     <message>
         <source>Custom time (minutes):</source>
-        <translation>Intervalle personnalisé (minutes)&#xa0;:</translation>
+        <translation>Intervalle personnalisé (min)&#xa0;:</translation>
     </message>
     <message>
         <source>Start delay</source>
@@ -321,7 +321,7 @@ Votre saisie a été tronquée.</translation>
     </message>
     <message>
         <source>Custom delay (minutes)</source>
-        <translation>Délai personnalisé (minutes)</translation>
+        <translation>Délai personnalisé (min)</translation>
     </message>
     <message>
         <source>Operating temperature range</source>
@@ -539,11 +539,11 @@ La connexion ne peut pas être établie. Abandon.</translation>
     </message>
     <message>
         <source>Fetching time and date from server pool...</source>
-        <translation>Obtention de la date et de l&apos;heure. Source&#xa0;: groupe de serveurs...</translation>
+        <translation>Obtention de la date et de l&apos;heure (source&#xa0;: groupe de serveurs)...</translation>
     </message>
     <message>
         <source>Fetching time and date from %1...</source>
-        <translation>Obtention de la date et de l&apos;heure. Source&#xa0;: %1...</translation>
+        <translation>Obtention de la date et de l&apos;heure (source&#xa0;: %1)...</translation>
     </message>
     <message>
         <source>server pool</source>
@@ -551,11 +551,11 @@ La connexion ne peut pas être établie. Abandon.</translation>
     </message>
     <message>
         <source>Successfully fetched time and date from %1.</source>
-        <translation>Date et heure obtenues. Source&#xa0;: %1.</translation>
+        <translation>Date et heure obtenues (source&#xa0;: %1).</translation>
     </message>
     <message>
         <source>Unable to fetch date and time from %1. Check your connections or try another server.</source>
-        <translation>Impossible d&apos;obtenir la date et l&apos;heure. Source&#xa0;: %1. Vérifiez vos connexions ou essayez un autre serveur.</translation>
+        <translation>Impossible d&apos;obtenir la date et l&apos;heure (source&#xa0;: %1). Vérifiez vos connexions ou essayez un autre serveur.</translation>
     </message>
     <message>
         <source>Copy as text...</source>
@@ -563,11 +563,11 @@ La connexion ne peut pas être établie. Abandon.</translation>
     </message>
     <message>
         <source>&lt;p&gt;&lt;span style=&quot; font-weight:600; color:#ff0000;&quot;&gt;The device&apos;s battery is LOW.&lt;/span&gt;&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;span style=&quot; font-weight:600; color:#ff0000;&quot;&gt;La batterie de l&apos;appareil est FAIBLE.&lt;/span&gt;&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;&lt;span style=&quot; font-weight:600; color:#ff0000;&quot;&gt;La pile de l&apos;appareil est FAIBLE.&lt;/span&gt;&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;p&gt;&lt;span style=&quot;font-weight:600; color:#ff0000;&quot;&gt;Please replace the battery immediately.&lt;/span&gt;&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;span style=&quot;font-weight:600; color:#ff0000;&quot;&gt;Veuillez remplacer la batterie immédiatement.&lt;/span&gt;&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;&lt;span style=&quot;font-weight:600; color:#ff0000;&quot;&gt;Veuillez remplacer la pile immédiatement.&lt;/span&gt;&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;p&gt;&lt;span style=&quot;font-weight:600; color:#ff0000;&quot;&gt;Please refrain from using this device.&lt;/span&gt;&lt;/p&gt;</source>
@@ -689,7 +689,7 @@ Voulez-vous vraiment démarrer l&apos;appareil&#xa0;?</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation>Confirmer</translation>
+        <translation>Confirmation</translation>
     </message>
     <message>
         <source>Do you wish to start the device?
@@ -991,7 +991,7 @@ Une fois l&apos;appareil déverrouillé, les rapports de mesure seront disponibl
     </message>
     <message>
         <source>Current:</source>
-        <translation>Actuelle&#xa0;:</translation>
+        <translation>Heure actuelle&#xa0;:</translation>
     </message>
     <message>
         <source>Set to:</source>
