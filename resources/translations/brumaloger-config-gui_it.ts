@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Disable changes via button</source>
-        <translation>Disabilita modifiche con il pulsante</translation>
+        <translation>Disabilita modifiche da pulsante</translation>
     </message>
     <message>
         <source>&lt;p&gt;Prevent physical button from changing SAMPLE TIME and TEMPERATURE MONITORING RANGE configurations.&lt;/p&gt;</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Allow START via software tool</source>
-        <translation>Consenti START con il software</translation>
+        <translation>Consenti START via software</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Allows the logger to be placed in RECORDING mode via this software tool.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>STOP device immediately when attached to USB port</source>
-        <translation>STOP immediato quando il dispositivo è collegato a una porta USB</translation>
+        <translation>STOP immediato al collegamento del dispositivo a una porta USB</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Allows a device in the RECORDING state to immediately STOP into the DONE state when attached to an USB port. The &lt;span style=&quot; font-style:italic;&quot;&gt;Brumalogger Configuration Tool&lt;/span&gt; is &lt;span style=&quot; font-weight:600;&quot;&gt;not&lt;/span&gt; required.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
@@ -187,11 +187,11 @@ Il testo immesso è stato troncato.</translation>
     </message>
     <message>
         <source>Select a START Date and Time</source>
-        <translation>Selezionare data e ora di START</translation>
+        <translation>Seleziona data e ora di START</translation>
     </message>
     <message>
         <source>Select a STOP Date and Time</source>
-        <translation>Selezionare data e ora di STOP</translation>
+        <translation>Seleziona data e ora di STOP</translation>
     </message>
     <message>
         <source>Empty password field</source>
@@ -337,7 +337,7 @@ Il testo immesso è stato troncato.</translation>
     </message>
     <message>
         <source>Disable changes via button</source>
-        <translation>Disabilita modifiche con il pulsante</translation>
+        <translation>Disabilita modifiche da pulsante</translation>
     </message>
     <message>
         <source>Advanced Options</source>
@@ -409,7 +409,7 @@ Il testo immesso è stato troncato.</translation>
     </message>
     <message>
         <source>Save all to preset</source>
-        <translation>Salva tutto nel preset</translation>
+        <translation>Salva tutto come preset</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
@@ -771,7 +771,7 @@ Se il problema persiste, selezionare &lt;b&gt;Disabilita lettura/scrittura veloc
     </message>
     <message>
         <source>Save to preset</source>
-        <translation>Salva nel preset</translation>
+        <translation>Salva come preset</translation>
     </message>
     <message>
         <source>Load preset</source>
@@ -896,7 +896,7 @@ Dopo lo sblocco saranno disponibili i rapporti di misura.</translation>
     </message>
     <message>
         <source>Enable preset</source>
-        <translation>Attiva preset</translation>
+        <translation>Abilita preset</translation>
     </message>
     <message>
         <source>General</source>
