@@ -154,7 +154,7 @@
     <message>
         <source>Password may not be larger than %1 characters.
 Your input was truncated.</source>
-        <translation>La password non può superare %1 caratteri.
+        <translation>La password non può superare i %1 caratteri.
 Il testo immesso è stato troncato.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@ Impossibile stabilire la connessione. Operazione interrotta.</translation>
     <message>
         <source>Reading from the device now will erase your changes.
 Do you wish to proceed?</source>
-        <translation>Leggendo ora dal dispositivo, le modifiche andranno perse.
+        <translation>Se si legge ora dal dispositivo, le modifiche andranno perse.
 Continuare?</translation>
     </message>
     <message>
@@ -703,7 +703,7 @@ Questa operazione non può essere annullata.</translation>
     </message>
     <message>
         <source>Software START is disabled on this logger.</source>
-        <translation>START via software è disabilitato su questo registratore.</translation>
+        <translation>Lo START via software è disabilitato su questo registratore.</translation>
     </message>
     <message>
         <source>Error</source>
@@ -940,7 +940,7 @@ Dopo lo sblocco saranno disponibili i rapporti di misura.</translation>
     </message>
     <message>
         <source>Fetch time reference from multiple servers. Using single servers is disencouraged, as they may send slightly outdated references.</source>
-        <translation>Ottiene il riferimento orario da più server. L&apos;uso di un solo server è sconsigliato, perché potrebbe inviare riferimenti leggermente in ritardo.</translation>
+        <translation>Ottiene il riferimento orario da più server. Si sconsiglia di usare un solo server, che potrebbe inviare riferimenti leggermente in ritardo.</translation>
     </message>
     <message>
         <source>General Device Settings</source>
