@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Disable changes via button</source>
-        <translation>Desactivar cambios con el botón</translation>
+        <translation>Impedir cambios con el botón</translation>
     </message>
     <message>
         <source>&lt;p&gt;Prevent physical button from changing SAMPLE TIME and TEMPERATURE MONITORING RANGE configurations.&lt;/p&gt;</source>
@@ -337,7 +337,7 @@ El texto introducido se ha recortado.</translation>
     </message>
     <message>
         <source>Disable changes via button</source>
-        <translation>Desactivar cambios con el botón</translation>
+        <translation>Impedir cambios con el botón</translation>
     </message>
     <message>
         <source>Advanced Options</source>
