@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Changes will take full effect upon disconnecting the Brumalogger from the USB port.&lt;/span&gt;&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Los cambios tendrán pleno efecto al retirar el Brumalogger del puerto USB.&lt;/span&gt;&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Los cambios surtirán pleno efecto al retirar el Brumalogger del puerto USB.&lt;/span&gt;&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Allow device RESET only after reports are generated</source>
@@ -187,11 +187,11 @@ El texto introducido se ha recortado.</translation>
     </message>
     <message>
         <source>Select a START Date and Time</source>
-        <translation>Seleccione fecha y hora de START</translation>
+        <translation>Seleccionar fecha y hora de START</translation>
     </message>
     <message>
         <source>Select a STOP Date and Time</source>
-        <translation>Seleccione fecha y hora de STOP</translation>
+        <translation>Seleccionar fecha y hora de STOP</translation>
     </message>
     <message>
         <source>Empty password field</source>
@@ -513,7 +513,7 @@ Do you really wish to disconnect?</source>
     </message>
     <message>
         <source>Invalid device detected.</source>
-        <translation>Dispositivo no válido detectado.</translation>
+        <translation>Se ha detectado un dispositivo no válido.</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -703,7 +703,7 @@ Esta operación no se puede deshacer.</translation>
     </message>
     <message>
         <source>Software START is disabled on this logger.</source>
-        <translation>START por software está desactivado en este registrador.</translation>
+        <translation>El START por software está desactivado en este registrador.</translation>
     </message>
     <message>
         <source>Error</source>
