@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>STOP device immediately when attached to USB port</source>
-        <translation>STOP imediato ao ligar o dispositivo a uma porta USB</translation>
+        <translation>STOP imediato ao conectar o dispositivo a uma porta USB</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Allows a device in the RECORDING state to immediately STOP into the DONE state when attached to an USB port. The &lt;span style=&quot; font-style:italic;&quot;&gt;Brumalogger Configuration Tool&lt;/span&gt; is &lt;span style=&quot; font-weight:600;&quot;&gt;not&lt;/span&gt; required.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Permite que um dispositivo no estado RECORDING execute STOP e passe imediatamente ao estado DONE ao ser ligado a uma porta USB. O &lt;span style=&quot; font-style:italic;&quot;&gt;Brumalogger Configuration Tool&lt;/span&gt; &lt;span style=&quot; font-weight:600;&quot;&gt;não&lt;/span&gt; é necessário.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Permite que um dispositivo no estado RECORDING execute STOP e passe imediatamente ao estado DONE ao ser conectado a uma porta USB. O &lt;span style=&quot; font-style:italic;&quot;&gt;Brumalogger Configuration Tool&lt;/span&gt; &lt;span style=&quot; font-weight:600;&quot;&gt;não&lt;/span&gt; é necessário.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>START automatically on: -</source>
