@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Require password always when accessing reports</source>
-        <translation>Exigir sempre senha para acessar os relatórios</translation>
+        <translation>Sempre exigir senha para acessar os relatórios</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Upon &lt;span style=&quot; font-weight:600;&quot;&gt;every&lt;/span&gt; USB connection in the DONE state, the device will require the password to display the reports. The device must be unlocked using this tool. After unlocking, it will appear as a USB thumb drive with the reports until it is disconnected.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;A Multiuse device can be RESET &lt;span style=&quot; font-weight:600;&quot;&gt;only&lt;/span&gt; in the DONE state (i.e., after measurements have been stopped).&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;O RESET de um dispositivo Multiuse pode ser feito &lt;span style=&quot; font-weight:600;&quot;&gt;somente&lt;/span&gt; no estado DONE (isto é, depois que as medições foram paradas).&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;O RESET de um dispositivo Multiuse pode ser feito &lt;span style=&quot; font-weight:600;&quot;&gt;somente&lt;/span&gt; no estado DONE (isto é, após a parada das medições).&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Changes will take full effect upon disconnecting the Brumalogger from the USB port.&lt;/span&gt;&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;As alterações terão pleno efeito ao retirar o Brumalogger da porta USB.&lt;/span&gt;&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;As alterações terão efeito completo quando o Brumalogger for retirado da porta USB.&lt;/span&gt;&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Allow device RESET only after reports are generated</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;A Multiuse device can be RESET &lt;span style=&quot;font-weight:600;&quot;&gt;only&lt;/span&gt; in the DONE state (i.e., after measurements have been stopped) after viewing the reports at least once.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;O RESET de um dispositivo Multiuse pode ser feito &lt;span style=&quot;font-weight:600;&quot;&gt;somente&lt;/span&gt; no estado DONE (isto é, depois que as medições foram paradas) e após ver os relatórios pelo menos uma vez.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;O RESET de um dispositivo Multiuse pode ser feito &lt;span style=&quot;font-weight:600;&quot;&gt;somente&lt;/span&gt; no estado DONE (isto é, após a parada das medições) e depois de ver os relatórios pelo menos uma vez.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Password too long</source>
@@ -703,7 +703,7 @@ Esta operação não pode ser desfeita.</translation>
     </message>
     <message>
         <source>Software START is disabled on this logger.</source>
-        <translation>START pelo software está desativado neste registrador.</translation>
+        <translation>O START pelo software está desativado neste registrador.</translation>
     </message>
     <message>
         <source>Error</source>
@@ -932,7 +932,7 @@ Após o desbloqueio, os relatórios de medição ficarão disponíveis.</transla
     </message>
     <message>
         <source>Fetch time reference from time server instead of using local computer time.</source>
-        <translation>Obtém a hora de referência de um servidor de hora em vez de usar a hora local do computador.</translation>
+        <translation>Obtém a hora de referência de um servidor de hora em vez de usar a hora deste computador.</translation>
     </message>
     <message>
         <source>Use multiple time servers (recommended)</source>
