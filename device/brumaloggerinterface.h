@@ -190,7 +190,6 @@ private:
     QString reply;
     bool connected = false;
     bool replyReady = false;
-    bool busy = false;
     QHash<unsigned int, QString> texts;
     QString deviceName;
     QString firmwareVersion;
@@ -208,4 +207,5 @@ private:
     TimeKeeper deviceClock;
     int waitTime;
     bool fastMode = true;
+    bool busy = false;
 };

@@ -15,6 +15,8 @@ namespace {
 constexpr int fastWait = 75;
 constexpr int slowWait = 150;
 constexpr int spinSlice = 10;
+/// The computer's clock is set back by more than this: it passed midnight, or somebody set it.
+constexpr int clockJump = 1000;
 
 // True once the plug was pulled.
 bool isHungUp(int line)
@@ -43,11 +45,13 @@ void BrumaloggerInterface::lSetFastMode(bool fast)
 }
 
 // The one place where the program waits. A deadline that wraps at midnight lies before the present time and
-// ends the wait at once.
+// ends the wait at once; one of yesterday evening, after a box that stayed open over midnight, does so as
+// well.
 void BrumaloggerInterface::lWait(int msecs)
 {
     const QTime deadline = QTime::currentTime().addMSecs(msecs);
-    while (QTime::currentTime() < deadline)
+    const auto left = [deadline] { return QTime::currentTime().msecsTo(deadline); };
+    for (int rest = left(); rest > 0 && rest <= msecs + clockJump; rest = left())
         QCoreApplication::processEvents(QEventLoop::AllEvents, spinSlice);
 }
 

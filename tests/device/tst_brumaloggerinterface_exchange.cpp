@@ -45,6 +45,7 @@ private slots:
     void closedPortFailsAtOnce();
     void midnightEndsTheWaitAtOnce();
     void waitAfterMidnightIsWhole();
+    void waitHeldUpOverMidnightEnds();
     void eventLoopRunsDuringTheWait();
 };
 
@@ -211,6 +212,27 @@ void TestBrumaloggerInterfaceExchange::waitAfterMidnightIsWhole()
     const Stopwatch stopwatch;
     QVERIFY(rig.link.lSendCommandK());
     QVERIFY(isWait(stopwatch.elapsed(), fastWait));
+}
+
+// As after a box that was left open for the night, in the middle of the wait.
+void TestBrumaloggerInterfaceExchange::waitHeldUpOverMidnightEnds()
+{
+    static constexpr qint64 hour = 3600 * 1000;
+    DeviceRig rig;
+    TestClock::set(midnight() - 2 * hour);
+    bool heldUp = false;
+    bool rescued = false;
+    QTimer::singleShot(0, &rig.link, [&] {
+        TestClock::set(midnight() + 8 * hour);
+        heldUp = true;
+        QTimer::singleShot(1000, &rig.link, [&rescued] {
+            TestClock::set(midnight() + 23 * hour);
+            rescued = true;
+        });
+    });
+    rig.link.lWait(fastWait);
+    QVERIFY(heldUp);
+    QVERIFY(!rescued);
 }
 
 void TestBrumaloggerInterfaceExchange::eventLoopRunsDuringTheWait()
