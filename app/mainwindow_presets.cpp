@@ -11,6 +11,7 @@
 
 #include <QDebug>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLocale>
 #include <QScopedValueRollback>
 #include <QStandardPaths>
@@ -26,6 +27,13 @@ constexpr auto fileFilter = "Brumalogger preset files (*.bpr)";
 QString presetFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+/// What a file dialog gave, without the blanks around it. Nothing for a name of blanks, nor if it was
+/// cancelled.
+QString fileChosen(const QString& path)
+{
+    return QFileInfo(path).fileName().trimmed().isEmpty() ? QString() : path.trimmed();
 }
 
 QString degrees(const QDoubleSpinBox* spin)
@@ -118,9 +126,8 @@ void MainWindow::plSave()
     if (procedureRuns)
         return;
     const QScopedValueRollback<bool> guard(procedureRuns, true);
-    QString name =
-        QFileDialog::getSaveFileName(this, tr("Save to preset"), presetFolder(), QLatin1String(fileFilter))
-            .trimmed();
+    QString name = fileChosen(
+        QFileDialog::getSaveFileName(this, tr("Save to preset"), presetFolder(), QLatin1String(fileFilter)));
     if (name.isEmpty() || !plDeviceStays())
         return;
     if (!name.endsWith(QLatin1String(fileSuffix)))
@@ -141,9 +148,8 @@ void MainWindow::plLoad()
     if (procedureRuns)
         return;
     const QScopedValueRollback<bool> guard(procedureRuns, true);
-    const QString path =
-        QFileDialog::getOpenFileName(this, tr("Load preset"), presetFolder(), QLatin1String(fileFilter))
-            .trimmed();
+    const QString path = fileChosen(
+        QFileDialog::getOpenFileName(this, tr("Load preset"), presetFolder(), QLatin1String(fileFilter)));
     if (!path.isEmpty() && plDeviceStays())
         loadPresetFile(path);
 }

@@ -51,9 +51,11 @@ GuideDialog::~GuideDialog()
     delete ui;
 }
 
+// Coming back from being minimised is no opening: the reader finds the place again.
 void GuideDialog::showEvent(QShowEvent* event)
 {
-    lReadTextFromFile(pageFor(storage->value(QStringLiteral("language"))));
+    if (!event->spontaneous())
+        lReadTextFromFile(pageFor(storage->value(QStringLiteral("language"))));
     QDialog::showEvent(event);
 }
 

@@ -7,6 +7,7 @@
 
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QShowEvent>
 #include <QStandardPaths>
 
 namespace {
@@ -252,10 +253,12 @@ QSize SettingsDialog::savedWindowSize() const
     return {storage->value(windowWidthKey).toInt(), storage->value(windowHeightKey).toInt()};
 }
 
+// Coming back from being minimised is no opening: what was chosen stays.
 void SettingsDialog::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
-    loadSettings();
+    if (!event->spontaneous())
+        loadSettings();
 }
 
 // Closing by the frame is no more than hiding.

@@ -73,7 +73,7 @@ Expected expectedOf(const std::string& file)
         if (number(parts[0]) * 1000000 + number(parts[1]) * 1000 + number(parts[2]) <= ownNumber)
             return expected;
         if (expected.version.empty())
-            expected = {tokens.front(), addressIn(tokens)};
+            expected = {tokens.front(), tokens.size() > 1 ? addressIn(tokens) : std::string()};
         for (const std::string& token : tokens)
             expected.mandatory |= token == "mandatory";
     }

@@ -27,7 +27,8 @@ void take(const QStringList& tokens, VersionNews* news)
 {
     if (!news->found) {
         news->version = tokens.constFirst();
-        news->url = addressIn(tokens);
+        if (tokens.size() > 1)
+            news->url = addressIn(tokens);
     }
     news->found = true;
     news->mandatory |= tokens.contains(QLatin1String("mandatory"));

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QTest>
 #include <QTextStream>
 
 namespace {
@@ -95,6 +96,13 @@ PresetTable presetWith(PresetTable table, const PresetTable& changes)
     for (auto change = changes.cbegin(); change != changes.cend(); ++change)
         table.insert(change.key(), change.value());
     return table;
+}
+
+void addNamelessRows()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("cancelled") << QString();
+    QTest::newRow("blanks") << QStringLiteral("  ");
 }
 
 PresetTable presetWithout(PresetTable table, const QStringList& keys)

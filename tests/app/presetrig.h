@@ -26,6 +26,9 @@ PresetTable presetOfBasicLogger();
 PresetTable presetWith(PresetTable table, const PresetTable& changes);
 PresetTable presetWithout(PresetTable table, const QStringList& keys);
 
+/// A test's data with the column "typed": what is no name, empty where the file dialog is cancelled.
+void addNamelessRows();
+
 /// The figures of a date as the dialog keeps them.
 QDateTime figures(int day, int month, int year, int hour, int minute, int second);
 /// "on" and the date in a preset's form, or "off".

@@ -77,6 +77,7 @@ class TestMainWindowPresetsLoading : public QObject
 
 private slots:
     void asksForAFile();
+    void endsWithoutAName_data() { addNamelessRows(); }
     void endsWithoutAName();
     void spreadsEveryValue_data();
     void spreadsEveryValue();
@@ -108,11 +109,14 @@ void TestMainWindowPresetsLoading::asksForAFile()
 
 void TestMainWindowPresetsLoading::endsWithoutAName()
 {
+    QFETCH(const QString, typed);
     PresetRig rig;
+    writePreset(rig.document(QStringLiteral("  ")),
+                presetWith(presetOfBasicLogger(), {{QStringLiteral("info"), QStringLiteral("Batch 9")}}));
     rig.plugAndConnect();
     rig.takeStatusLog();
     const LogLines log;
-    rig.load(QString());
+    rig.load(typed.isEmpty() ? QString() : rig.document(typed));
     QCOMPARE(log.all().filter(QStringLiteral("Opening")), QStringList());
     QCOMPARE(rig.takeStatusLog(), QStringList());
     QCOMPARE(panels(rig), panelsOfBasicLogger());

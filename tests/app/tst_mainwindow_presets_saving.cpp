@@ -21,6 +21,7 @@ private slots:
     void asksForAFile();
     void namesTheFile_data();
     void namesTheFile();
+    void endsWithoutAName_data() { addNamelessRows(); }
     void endsWithoutAName();
     void savesEveryKey();
     void savesWhatAnExtendedLoggerHas();
@@ -92,11 +93,12 @@ void TestMainWindowPresetsSaving::namesTheFile()
 
 void TestMainWindowPresetsSaving::endsWithoutAName()
 {
+    QFETCH(const QString, typed);
     PresetRig rig;
     rig.plugAndConnect();
     rig.takeStatusLog();
     const LogLines log;
-    rig.save(QString());
+    rig.save(typed.isEmpty() ? QString() : rig.document(typed));
     QCOMPARE(log.all().filter(QStringLiteral("Saving")), QStringList());
     QCOMPARE(rig.takeStatusLog(), QStringList());
     QCOMPARE(QDir(rig.documents).entryList(QDir::Files | QDir::Hidden), QStringList());

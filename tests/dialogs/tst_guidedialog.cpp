@@ -2,6 +2,7 @@
 
 #include "dialogs/guidedialog.h"
 #include "presets/presetstorage.h"
+#include "support/minimised.h"
 #include "support/workfolder.h"
 
 #include <QDesktopServices>
@@ -111,6 +112,7 @@ private slots:
     void picturesAreShown();
     void languageIsThatOfTheStart();
     void openingAgainGoesToTheTop();
+    void placeOutlivesMinimising();
     void externalLinkLeavesThePage();
     void indexLeadsToItsSection();
     void indexLeadsThereAgain();
@@ -213,6 +215,17 @@ void TestGuideDialog::openingAgainGoesToTheTop()
     show(&dialog);
     QCOMPARE(position->value(), 0);
     QCOMPARE(browserOf(dialog)->toPlainText(), textOf(englishPage));
+}
+
+void TestGuideDialog::placeOutlivesMinimising()
+{
+    const WorkFolder folder{Settings()};
+    GuideDialog dialog(nullptr);
+    show(&dialog);
+    QScrollBar* position = browserOf(dialog)->verticalScrollBar();
+    position->setValue(1000);
+    bringBack(dialog);
+    QCOMPARE(position->value(), 1000);
 }
 
 void TestGuideDialog::externalLinkLeavesThePage()

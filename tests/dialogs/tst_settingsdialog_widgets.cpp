@@ -4,6 +4,7 @@
 
 #include "app/languages.h"
 #include "support/filedialoghand.h"
+#include "support/minimised.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -33,6 +34,7 @@ private slots:
     void fontSizes_data();
     void fontSizes();
     void serverTimeIsAFixedFact();
+    void choiceOutlivesMinimising();
     void timeOffDisablesServerAndPool();
     void timeOnRestoresWhatThePoolDemands();
     void poolDisablesTheServer();
@@ -169,6 +171,15 @@ void TestSettingsDialogWidgets::serverTimeIsAFixedFact()
     desk.dialog.loadSettings();
     QVERIFY(desk.isChecked("checkEnforceServerTime"));
     QVERIFY(!desk.isEnabled("checkEnforceServerTime"));
+}
+
+void TestSettingsDialogWidgets::choiceOutlivesMinimising()
+{
+    SettingsDesk desk({{QStringLiteral("useserverpool"), QStringLiteral("0")}});
+    desk.open();
+    desk.check("checkUsePool");
+    bringBack(desk.dialog);
+    QVERIFY(desk.isChecked("checkUsePool"));
 }
 
 void TestSettingsDialogWidgets::timeOffDisablesServerAndPool()

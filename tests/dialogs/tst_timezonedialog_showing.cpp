@@ -1,5 +1,6 @@
 // The Time Zone Editor at its showing: the source of the time, and whose clock shows which zone.
 
+#include "support/minimised.h"
 #include "zonedesk.h"
 
 #include <QTest>
@@ -146,9 +147,7 @@ void TestTimeZoneDialogShowing::choiceOutlivesMinimising()
     ZoneDesk desk;
     desk.open();
     desk.combo()->setCurrentText(QStringLiteral("GMT+9:00"));
-    QShowEvent broughtBack;
-    QSpontaneKeyEvent::setSpontaneous(&broughtBack);
-    QCoreApplication::instance()->notify(&desk.dialog, &broughtBack); // sending it would make it ours
+    bringBack(desk.dialog);
     QCOMPARE(desk.dialog.chosenName(), QStringLiteral("GMT+9:00"));
 }
 

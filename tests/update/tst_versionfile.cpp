@@ -74,6 +74,7 @@ void TestVersionFile::news_data()
     row("the sample", "1.4.0 mandatory win32:http://get.example/1.4.0\n",
         "1.4.0 must http://get.example/1.4.0");
     row("without an end of line", "1.4.0", "1.4.0 may");
+    row("address in place of a version", "win32:x.2000.0\n", "win32:x.2000.0 may");
     row("DOS ends of lines", "1.4.0 win32:here\r\n1.3.3\r\n", "1.4.0 may here");
     row("comment", "# versions\n1.4.0\n", "1.4.0 may");
     row("comment behind a version", "1.5.0#\n1.4.0\n1.3.3\n", "1.4.0 may");
