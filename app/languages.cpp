@@ -2,6 +2,7 @@
 
 #include "app/languages.h"
 
+#include "dialogs/configuration.h"
 #include "presets/presetstorage.h"
 
 #include <QCoreApplication>
@@ -10,7 +11,6 @@
 
 namespace {
 
-const QString languageKey = QStringLiteral("language");
 const QString sourceLanguage = QStringLiteral("en_us");
 
 struct Language
@@ -50,6 +50,7 @@ LanguageTable languageTable()
 
 void selectLanguage(PresetStorage* configuration, const LanguageTable& languages, QTranslator* translator)
 {
+    const QLatin1String languageKey(Configuration::languageKey);
     if (!configuration->contains(languageKey))
         return;
     const QString language = configuration->value(languageKey);

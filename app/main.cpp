@@ -2,6 +2,7 @@
 
 #include "app/languages.h"
 #include "app/mainwindow.h"
+#include "dialogs/configuration.h"
 #include "presets/presetstorage.h"
 
 #include <QApplication>
@@ -13,7 +14,7 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     QTranslator translator;
     PresetStorage configuration;
-    if (!configuration.load(QStringLiteral("blconf")))
+    if (!configuration.load(QLatin1String(Configuration::file)))
         qWarning() << "Unable to read configuration file.";
     const LanguageTable languages = languageTable();
     selectLanguage(&configuration, languages, &translator);

@@ -6,6 +6,7 @@
 #include "app/statustipfilter.h"
 #include "device/brumaloggerinterface.h"
 #include "dialogs/advancedoptionsdialog.h"
+#include "dialogs/configuration.h"
 #include "dialogs/guidedialog.h"
 #include "dialogs/passworddialog.h"
 #include "dialogs/settingsdialog.h"
@@ -20,8 +21,9 @@
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QFileDialog>
-#include <QMessageBox>
 #include <QShortcut>
+
+#include <initializer_list>
 
 namespace {
 
@@ -51,7 +53,7 @@ constexpr MainButton mainButtons[] = {
 
 void reject(QDialog* dialog)
 {
-    if (dialog && dialog->isVisible())
+    if (dialog->isVisible())
         dialog->reject();
 }
 
@@ -59,7 +61,9 @@ void reject(QDialog* dialog)
 void rejectAll(std::initializer_list<QDialog*> dialogs)
 {
     for (QDialog* dialog : dialogs) {
-        for (QDialog* above : dialog ? dialog->findChildren<QDialog*>() : QList<QDialog*>())
+        if (!dialog)
+            continue;
+        for (QDialog* above : dialog->findChildren<QDialog*>())
             reject(above);
         reject(dialog);
     }
@@ -96,7 +100,7 @@ MainWindow::MainWindow(QWidget* parent)
     defaultTimeZoneName = timeManager->timeZones().constFirst().name;
     currentTimeZoneName = defaultTimeZoneName;
     setWindowTitle(windowTitleBase); // in place of the form's, which is translated
-    settingsDialog->setConfigPath(QStringLiteral("blconf"));
+    settingsDialog->setConfigPath(QLatin1String(Configuration::file));
     plInsertLists();
     timeKeeper.setRunning(false);
     plConnectSignals();
@@ -158,8 +162,8 @@ void MainWindow::plConnectSignals()
 // The spin boxes are left out on purpose: a custom value alone marks no change.
 void MainWindow::plConnectChanges()
 {
-    for (QLineEdit* edit : {ui->lineSender, ui->lineRecipient, ui->lineInfo, ui->lineBarcode})
-        connect(edit, &QLineEdit::textChanged, this, [this] { plChangesOcurred(); });
+    for (const TextSlot& slot : textSlots)
+        connect(ui->*slot.edit, &QLineEdit::textChanged, this, [this] { plChangesOcurred(); });
     for (QComboBox* combo : {ui->comboTemp, ui->comboSampling, ui->comboDelay, ui->comboType})
         connect(combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 [this] { plChangesOcurred(); });
@@ -239,20 +243,21 @@ void MainWindow::plRejectDeviceDialogs()
 void MainWindow::plDisableControls(bool disabled)
 {
     controlsDisabled = disabled;
+    for (const TextSlot& slot : textSlots)
+        (ui->*slot.edit)->setEnabled(!disabled);
     for (QWidget* widget : std::initializer_list<QWidget*>{
-             ui->lineSender, ui->lineRecipient, ui->lineInfo, ui->lineBarcode, ui->comboTemp,
-             ui->comboSampling, ui->comboDelay, ui->comboType, ui->checkLock, ui->buttonRead, ui->buttonWrite,
-             ui->buttonAdvanced, ui->buttonStart})
+             ui->comboTemp, ui->comboSampling, ui->comboDelay, ui->comboType, ui->checkLock, ui->buttonRead,
+             ui->buttonWrite, ui->buttonAdvanced, ui->buttonStart})
         widget->setEnabled(!disabled);
     for (QAction* action : {ui->actionSave, ui->actionLoad})
         action->setEnabled(!disabled);
     ui->buttonToolTimeZone->setEnabled(!disabled && settingsDialog->timeEnabled() &&
                                        timeManager->isQuerySuccesful());
-    ui->buttonPreset->setEnabled(settingsDialog->presetEnabled());
+    ui->buttonPreset->setEnabled(!disabled && settingsDialog->presetEnabled());
     if (disabled) {
-        for (QWidget* widget : std::initializer_list<QWidget*>{
-                 ui->spinDelay, ui->spinSampling, ui->spindTempMin, ui->spindTempMax, ui->buttonPreset})
-            widget->setEnabled(false);
+        for (QAbstractSpinBox* spin : std::initializer_list<QAbstractSpinBox*>{
+                 ui->spinDelay, ui->spinSampling, ui->spindTempMin, ui->spindTempMax})
+            spin->setEnabled(false);
     } else {
         plUpdateTempRange();
         plUpdateStartDelay();

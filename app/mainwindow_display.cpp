@@ -33,8 +33,8 @@ void MainWindow::plSettingsAccepted()
 // chose before stays.
 void MainWindow::plMakeRoom()
 {
-    QCoreApplication::sendPostedEvents(nullptr,
-                                       QEvent::LayoutRequest); // the panels' new sizes are known by them
+    // The panels' new sizes are known by them.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     resize(size().expandedTo(minimumSizeHint().boundedTo(screen()->availableSize())));
 }
 
@@ -147,8 +147,8 @@ void MainWindow::plClearDeviceInfo()
     ui->spindTempMin->setValue(0);
     for (QComboBox* combo : {ui->comboTemp, ui->comboDelay, ui->comboSampling, ui->comboType})
         combo->setCurrentIndex(0);
-    for (QLineEdit* edit : {ui->lineBarcode, ui->lineRecipient, ui->lineSender, ui->lineInfo})
-        edit->clear();
+    for (const TextSlot& slot : textSlots)
+        (ui->*slot.edit)->clear();
     ui->lineInfo->setEnabled(true);
     plShowLastReset(false);
     ui->labelLowBattery->clear();

@@ -4,6 +4,7 @@
 #include "app/mainwindow.h"
 
 #include "dialogs/advancedoptionsdialog.h"
+#include "dialogs/configuration.h"
 #include "dialogs/settingsdialog.h"
 #include "presets/presetstorage.h"
 #include "time/timemanager.h"
@@ -22,7 +23,6 @@
 namespace {
 
 constexpr auto fileSuffix = ".bpr";
-constexpr auto fileFilter = "Brumalogger preset files (*.bpr)";
 
 QString presetFolder()
 {
@@ -126,8 +126,8 @@ void MainWindow::plSave()
     if (procedureRuns)
         return;
     const QScopedValueRollback<bool> guard(procedureRuns, true);
-    QString name = fileChosen(
-        QFileDialog::getSaveFileName(this, tr("Save to preset"), presetFolder(), QLatin1String(fileFilter)));
+    QString name = fileChosen(QFileDialog::getSaveFileName(this, tr("Save to preset"), presetFolder(),
+                                                           QLatin1String(Configuration::presetFilter)));
     if (name.isEmpty() || !plDeviceStays())
         return;
     if (!name.endsWith(QLatin1String(fileSuffix)))
@@ -148,8 +148,8 @@ void MainWindow::plLoad()
     if (procedureRuns)
         return;
     const QScopedValueRollback<bool> guard(procedureRuns, true);
-    const QString path = fileChosen(
-        QFileDialog::getOpenFileName(this, tr("Load preset"), presetFolder(), QLatin1String(fileFilter)));
+    const QString path = fileChosen(QFileDialog::getOpenFileName(this, tr("Load preset"), presetFolder(),
+                                                                 QLatin1String(Configuration::presetFilter)));
     if (!path.isEmpty() && plDeviceStays())
         loadPresetFile(path);
 }

@@ -35,13 +35,14 @@ class BrumaloggerInterface : public QObject
 public:
     explicit BrumaloggerInterface(QObject* parent = nullptr);
 
-    /// Connects to the first port with the logger's USB identity; further fitting ports are not tried.
+    /// lConnect() with the first port that has the logger's USB identity, and its result; further fitting
+    /// ports are not tried.
     bool lConnectAuto();
     /// True from a successful lConnect() until lDisconnect(); a pulled plug is not noticed.
     bool lIsConnected() const { return connected; }
     /// True while an exchange waits for its reply, in which another one must not begin.
     bool lIsBusy() const { return busy; }
-    /// Name of the port last opened, for messages.
+    /// Name of the port last tried, for messages.
     QString lPortName() const { return port->portName(); }
 
     /// The reply wait is 75 ms in fast mode, which is the default, and 150 ms otherwise.
@@ -155,7 +156,7 @@ public:
     /// Firmware 1.2.0 or later: password lock, policies, time zone and automatic dates exist.
     bool lIsExtendedFirmware() const;
     /// Asks "m" and judges the clock last read: a Single-use device more than two days from @p reference is
-    /// not valid, its battery was out.
+    /// not valid, its battery was out. Nor is one that doesn't answer.
     bool lIsDeviceValid(const QDateTime& reference);
 
 public slots:

@@ -2,6 +2,7 @@
 
 #include "dialogs/guidedialog.h"
 
+#include "dialogs/configuration.h"
 #include "presets/presetstorage.h"
 #include "ui_guidedialog.h"
 
@@ -43,7 +44,7 @@ GuideDialog::GuideDialog(QWidget* parent)
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     ui->textBrowser->setOpenExternalLinks(true);
     storage = new PresetStorage(this);
-    storage->load(QStringLiteral("blconf")); // without it the guide is in English
+    storage->load(QLatin1String(Configuration::file)); // without it the guide is in English
 }
 
 GuideDialog::~GuideDialog()
@@ -55,7 +56,7 @@ GuideDialog::~GuideDialog()
 void GuideDialog::showEvent(QShowEvent* event)
 {
     if (!event->spontaneous())
-        lReadTextFromFile(pageFor(storage->value(QStringLiteral("language"))));
+        lReadTextFromFile(pageFor(storage->value(QLatin1String(Configuration::languageKey))));
     QDialog::showEvent(event);
 }
 

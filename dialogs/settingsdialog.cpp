@@ -2,11 +2,13 @@
 
 #include "dialogs/settingsdialog.h"
 
+#include "dialogs/configuration.h"
 #include "presets/presetstorage.h"
 #include "ui_settingsdialog.h"
 
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QScopedValueRollback>
 #include <QShowEvent>
 #include <QStandardPaths>
 
@@ -26,7 +28,7 @@ const QString fontSizeKey = QStringLiteral("fontsize");
 const QString presetEnabledKey = QStringLiteral("preseten");
 const QString presetPathKey = QStringLiteral("presetpath");
 const QString timeServerKey = QStringLiteral("timeserver");
-const QString languageKey = QStringLiteral("language");
+const QString languageKey = QLatin1String(Configuration::languageKey);
 const QString windowWidthKey = QStringLiteral("winwidth");
 const QString windowHeightKey = QStringLiteral("winheight");
 
@@ -80,9 +82,9 @@ QString flagText(bool set)
     return set ? QStringLiteral("1") : QStringLiteral("0");
 }
 
-bool isSet(const QString& flagText)
+bool isSet(const QString& flag)
 {
-    return flagText.toInt() != 0;
+    return flag.toInt() != 0;
 }
 
 } // namespace
@@ -157,7 +159,7 @@ bool SettingsDialog::loadSettings()
     // Until the window names the file, the toolkit would complain of the missing name.
     if (configPath.isEmpty() || !storage->load(configPath))
         return false;
-    loading = true;
+    const QScopedValueRollback<bool> guard(loading, true);
     ui->spinFont->setValue(storage->value(fontSizeKey).toInt());
     ui->checkPreset->setChecked(isSet(storage->value(presetEnabledKey)));
     ui->lineFilename->setText(storage->value(presetPathKey));
@@ -168,7 +170,6 @@ bool SettingsDialog::loadSettings()
             ->setChecked(storage->contains(key) ? isSet(storage->value(key)) : setting.whenMissing);
     }
     plLoadLanguage();
-    loading = false;
     return true;
 }
 
@@ -269,7 +270,7 @@ void SettingsDialog::plOpenPreset()
     const QString path =
         QFileDialog::getOpenFileName(this, tr("Select preset"),
                                      QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
-                                     QStringLiteral("Brumalogger preset files (*.bpr)"))
+                                     QLatin1String(Configuration::presetFilter))
             .trimmed();
     if (path.isEmpty())
         return;

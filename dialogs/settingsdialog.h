@@ -25,9 +25,10 @@ public:
     explicit SettingsDialog(QWidget* parent);
     ~SettingsDialog() override;
 
+    /// Without a path nothing is read.
     void setConfigPath(const QString& path);
-    /// False, and the widgets left alone, if the file can't be read. In a file that can be read, keys for
-    /// time configuration and server pool that are missing count as checked.
+    /// False, and the widgets left alone, if the file can't be read. In a file that can be read, a missing
+    /// key turns time configuration off, and the pool on.
     bool loadSettings();
     /// Writes the settings and the window's size. Failures aren't reported.
     void saveSettings();
@@ -36,6 +37,7 @@ public:
 
     /// The default preset can be used.
     bool presetEnabled() const;
+    /// As it was chosen or stored; may be empty or lead nowhere.
     QString presetPath() const;
     /// Time configuration is on.
     bool timeEnabled() const;

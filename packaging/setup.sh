@@ -1,4 +1,4 @@
-# What the two commands share: Debian's packages, and a configured and built tree. Meant to be sourced.
+# What run, test and the other scripts share: Debian's packages, and a configured and built tree. Meant to be sourced.
 
 # install_packages PACKAGE...: installs what is missing, as root or through sudo.
 install_packages() {

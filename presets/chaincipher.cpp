@@ -107,8 +107,8 @@ ChainCipher::ChainCipher()
 }
 
 ChainCipher::ChainCipher(quint64 key)
+    : ChainCipher()
 {
-    seedRandom();
     setKey(key);
 }
 

@@ -48,6 +48,7 @@ public:
 
     /// Replaces the key; 0 is a key like any other.
     void setKey(quint64 key);
+    /// CompressAuto and IntegrityChecksum, which files are written with, unless set otherwise.
     void setCompressionMode(CompressionMode mode) { compressionMode = mode; }
     void setIntegrityMode(IntegrityMode mode) { integrityMode = mode; }
 

@@ -16,8 +16,7 @@ namespace {
 
 // The key of all preset and configuration files. Builds that are to share files must keep it: with another
 // one, every file that users have is refused.
-constexpr quint32 cipherKeyLow = 0x5A3C96E1;
-constexpr quint32 cipherKeyHigh = 0xB7D2084F;
+constexpr quint64 fileKey = 0xB7D2084F5A3C96E1;
 
 constexpr int majorWritten = 2;
 constexpr int minorWritten = 0;
@@ -61,7 +60,7 @@ int endOfLine(const QString& text, int start)
 
 PresetStorage::PresetStorage(QObject* parent)
     : QObject(parent)
-    , cipherKey(quint64(cipherKeyHigh) << 32 | cipherKeyLow)
+    , cipherKey(fileKey)
 {
 }
 

@@ -11,19 +11,13 @@ constexpr int tickInterval = 1000;
 TimeKeeper::TimeKeeper(const QDateTime& start, QObject* parent)
     : QObject(parent)
 {
-    plStart(start);
+    connect(&timer, &QTimer::timeout, this, &TimeKeeper::plUpdate);
+    setTime(start);
 }
 
 TimeKeeper::TimeKeeper(QObject* parent)
-    : QObject(parent)
+    : TimeKeeper(QDateTime::currentDateTime(), parent)
 {
-    plStart(QDateTime::currentDateTime());
-}
-
-void TimeKeeper::plStart(const QDateTime& start)
-{
-    connect(&timer, &QTimer::timeout, this, &TimeKeeper::plUpdate);
-    setTime(start);
 }
 
 void TimeKeeper::setTime(const QDateTime& time)

@@ -38,8 +38,6 @@ private slots:
     void plUpdate();
 
 private:
-    void plStart(const QDateTime& start);
-
     QTimer timer;
     QDateTime currentTime;
     qint64 offsetMsecs = 0;
