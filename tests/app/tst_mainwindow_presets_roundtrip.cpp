@@ -1,5 +1,8 @@
-// Every combination of sampling time, start delay and range that the setup panel offers, with each shipment
-// type and lock in turn, saved to a preset and loaded back.
+// Every combination of sampling time, start delay and range that the setup panel offers, saved to a preset
+// and loaded back. The shipment type and the lock go through them so that each type with each lock meets
+// every two of the three: 800 files for the 6400 combinations of all five, since opening and closing the file
+// dialog takes nearly all of a run's time. They suffice because no key of a file depends on another, but for
+// the two ends of the range: a key's value comes from its own control, and goes back into that alone.
 
 #include "presetrig.h"
 #include "setuppanel.h"
@@ -58,6 +61,13 @@ constexpr int timeEntries = 10;
 constexpr int rangeEntries = 8;
 constexpr int typeEntries = 4;
 
+/// With any two of the lists' entries held, the third goes through every type with every lock.
+Choice choiceOf(int sampling, int delay, int range)
+{
+    const int typeAndLock = (sampling + delay + range) % (2 * typeEntries);
+    return {sampling, delay, range, typeAndLock % typeEntries, typeAndLock >= typeEntries};
+}
+
 } // namespace
 
 class TestMainWindowPresetsRoundtrip : public QObject
@@ -67,7 +77,6 @@ class TestMainWindowPresetsRoundtrip : public QObject
 private slots:
     void everyCombination_data();
     void everyCombination();
-    void everyTypeAndLock();
 
 private:
     static void saveAndLoad(PresetRig& rig, const Choice& choice);
@@ -102,26 +111,12 @@ void TestMainWindowPresetsRoundtrip::everyCombination()
     rig.plugAndConnect();
     for (int delay = 0; delay < timeEntries; ++delay) {
         for (int range = 0; range < rangeEntries; ++range) {
-            saveAndLoad(rig, {sampling, delay, range, (delay + range) % typeEntries, range % 3 == 0});
+            saveAndLoad(rig, choiceOf(sampling, delay, range));
             if (QTest::currentTestFailed())
                 return;
         }
     }
     QCOMPARE(rig.robot.problems(), QString());
-}
-
-void TestMainWindowPresetsRoundtrip::everyTypeAndLock()
-{
-    PresetRig rig(quietSettingsWith({{QStringLiteral("preseten"), QStringLiteral("1")},
-                                     {QStringLiteral("presetpath"), QStringLiteral("Documents/own.bpr")}}));
-    rig.plugAndConnect();
-    for (int type = 0; type < typeEntries; ++type) {
-        for (const bool lock : {false, true}) {
-            saveAndLoad(rig, {type, typeEntries - type, type, type, lock});
-            if (QTest::currentTestFailed())
-                return;
-        }
-    }
 }
 
 QTEST_MAIN(TestMainWindowPresetsRoundtrip)
