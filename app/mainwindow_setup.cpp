@@ -161,8 +161,12 @@ void MainWindow::plChooseMinutes(QComboBox* combo, QSpinBox* spin, int seconds)
     spin->setValue(seconds / secondsPerMinute);
 }
 
+// Without a look at the range. A box that is switched off under the operator's hands loses the focus, which
+// is no editing, and a notice in the middle of a preset would give the device time to go.
 void MainWindow::plSetTempRange(float min, float max)
 {
+    const QSignalBlocker minimum(ui->spindTempMin);
+    const QSignalBlocker maximum(ui->spindTempMax);
     ui->comboTemp->setCurrentIndex(indexOrEnd(tempRanges, qMakePair(min, max)));
     ui->spindTempMax->setValue(max);
     ui->spindTempMin->setValue(min);
