@@ -9,7 +9,7 @@ target_link_libraries(brumalogger_presettests PUBLIC
   brumalogger_proceduretests
   brumalogger_time
 )
-foreach(concern saving loading values dates roundtrip range zone interruptions)
+foreach(concern saving loading values dates roundtrip range languages zone zonewrites interruptions)
   brumalogger_add_test(tst_mainwindow_presets_${concern} SOURCES tst_mainwindow_presets_${concern}.cpp
     LINK brumalogger_presettests
     MOCK NETWORK

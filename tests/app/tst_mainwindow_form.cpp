@@ -2,13 +2,13 @@
 
 #include "app/mainwindow.h"
 #include "formrows.h"
+#include "markingtranslator.h"
 #include "support/windowrig.h"
 #include "windowstate.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QGroupBox>
 #include <QMap>
 #include <QMenu>
@@ -16,28 +16,8 @@
 #include <QMetaMethod>
 #include <QShortcut>
 #include <QTest>
-#include <QTranslator>
 
 namespace {
-
-/// Marks every text that comes from the window's own context.
-class MarkingTranslator : public QTranslator
-{
-    Q_OBJECT
-
-public:
-    MarkingTranslator() { QCoreApplication::installTranslator(this); }
-    ~MarkingTranslator() override { QCoreApplication::removeTranslator(this); }
-    bool isEmpty() const override { return false; }
-    QString translate(const char* context, const char* text, const char*, int) const override
-    {
-        return qstrcmp(context, "MainWindow") == 0 ? marked(QString::fromUtf8(text)) : QString();
-    }
-    static QString marked(const QString& text)
-    {
-        return text.isEmpty() ? text : QLatin1Char('<') + text + QLatin1Char('>');
-    }
-};
 
 constexpr const char* buttonImages[] = {":/icon_connect.png", ":/icon_disconnect.png", ":/icon_read.png",
                                         ":/icon_write.png",   ":/icon_load.png",       ":/icon_start.png"};

@@ -1,5 +1,6 @@
 // The disclaimer that older loggers' operators accept before the Time Zone Editor.
 
+#include "markingtranslator.h"
 #include "windowstate.h"
 #include "zonerig.h"
 
@@ -27,6 +28,11 @@ public:
 WindowState untouched()
 {
     return idle(QStringLiteral("Connected to device on ttyACM0"), false);
+}
+
+QString pageOf(const QDialog* dialog)
+{
+    return dialog->findChild<QTextEdit*>()->toPlainText().simplified();
 }
 
 void expectPage(const QString& text, const QString& part)
@@ -65,6 +71,7 @@ private slots:
     void comesByFirmware_data();
     void comesByFirmware();
     void form();
+    void sameInEveryLanguage();
     void enterAccepts();
     void says_data();
     void says();
@@ -123,6 +130,21 @@ void TestMainWindowZoneEditorDisclaimer::form()
     QCOMPARE(zones.rig.window.findChildren<QTextEdit*>().size(), 0);
 }
 
+void TestMainWindowZoneEditorDisclaimer::sameInEveryLanguage()
+{
+    ZoneRig zones(olderLogger());
+    QString page;
+    zones.hand.atDisclaimer([&page](QDialog* dialog) { page = pageOf(dialog); });
+    zones.press();
+    const QString before = page;
+    const MarkingTranslator translator;
+    page.clear();
+    zones.press();
+    QVERIFY(!page.isEmpty());
+    QCOMPARE(page, before);
+    QCOMPARE(zones.hand.titles().mid(2), QStringList({disclaimer, editor}));
+}
+
 void TestMainWindowZoneEditorDisclaimer::enterAccepts()
 {
     ZoneRig zones(olderLogger());
@@ -156,8 +178,7 @@ void TestMainWindowZoneEditorDisclaimer::says()
     QFETCH(const QStringList, parts);
     ZoneRig zones(olderLogger());
     QString text;
-    zones.hand.atDisclaimer(
-        [&](QDialog* dialog) { text = dialog->findChild<QTextEdit*>()->toPlainText().simplified(); });
+    zones.hand.atDisclaimer([&text](QDialog* dialog) { text = pageOf(dialog); });
     zones.press();
     for (const QString& part : parts)
         expectPage(text, part);
