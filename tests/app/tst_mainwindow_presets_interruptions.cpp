@@ -22,7 +22,7 @@ using namespace WindowWords;
 
 namespace {
 
-constexpr qint64 dayMsecs = 24 * 60 * 60 * 1000;
+constexpr qint64 dayMsecs = Q_INT64_C(24) * 60 * 60 * 1000;
 
 Settings timeAndPresets()
 {
