@@ -3,12 +3,25 @@
 #include "procedurerig.h"
 
 #include "quickwire.h"
+#include "support/nextchance.h"
+#include "support/testclock.h"
 
 #include <QLineEdit>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
+
+namespace {
+
+constexpr qint64 replyWait = 75;
+
+void endTheNextWait(QObject* context)
+{
+    atNextChance(context, [] { TestClock::shift(replyWait); });
+}
+
+} // namespace
 
 ProcedureRig::ProcedureRig(const Settings& settings)
     : WindowRig(settings)
@@ -31,6 +44,19 @@ void ProcedureRig::unplugAll()
     for (SimulatedPort* port : bench.ports())
         bench.unplug(port);
     logger = nullptr;
+}
+
+// The first when the port is open, the second at the beginning of the read.
+void ProcedureRig::skipIdleWaits()
+{
+    for (const char* name : {"buttonConnect", "buttonRead"})
+        QObject::connect(find<QPushButton>(name), &QPushButton::pressed, &window,
+                         [this] { endTheNextWait(&window); });
+    QObject::connect(find<QStatusBar>("statusBar"), &QStatusBar::messageChanged, &window,
+                     [this](const QString& message) {
+                         if (message == QLatin1String("Connecting to device... "))
+                             endTheNextWait(&window);
+                     });
 }
 
 void ProcedureRig::disturb(int command, Fault::Kind kind, const QByteArray& bytes)

@@ -14,6 +14,10 @@ public:
     /// Pulls the plug of every logger; the next one to be plugged in is `logger`.
     void unplugAll();
 
+    /// From now on the waits of a connect and a read that come before an exchange are over at once: nothing
+    /// is on the wire in them. Not for tests that press these buttons while a procedure runs.
+    void skipIdleWaits();
+
     /// A fault for the n-th command from the last clearing of the record on (1 is the next).
     void disturb(int command, Fault::Kind kind, const QByteArray& bytes = {});
     /// A fault for every command that begins so.

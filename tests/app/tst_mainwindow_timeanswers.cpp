@@ -13,6 +13,11 @@ using namespace WindowWords;
 
 namespace {
 
+struct QuickRig : WaitingRig
+{
+    QuickRig() { rig.skipIdleWaits(); }
+};
+
 /// The answer is due at the n-th command of what follows.
 void answerAt(WaitingRig& waiting, int command)
 {
@@ -39,7 +44,7 @@ private slots:
 void TestMainWindowTimeAnswers::duringConnect()
 {
     QFETCH(const int, command);
-    WaitingRig waiting;
+    QuickRig waiting;
     TimeRig& rig = waiting.rig;
     const UnlockHand hand(rig, {rightPassword});
     rig.plug(lockedLogger());
@@ -53,7 +58,7 @@ void TestMainWindowTimeAnswers::duringConnect()
 void TestMainWindowTimeAnswers::duringRead()
 {
     QFETCH(const int, command);
-    WaitingRig waiting;
+    QuickRig waiting;
     TimeRig& rig = waiting.rig;
     rig.plugAndConnect(secureLogger());
     answerAt(waiting, command);
@@ -69,7 +74,7 @@ void TestMainWindowTimeAnswers::duringRead()
 void TestMainWindowTimeAnswers::duringWrite()
 {
     QFETCH(const int, command);
-    WaitingRig waiting;
+    QuickRig waiting;
     TimeRig& rig = waiting.rig;
     rig.plugAndConnect(secureLogger());
     answerAt(waiting, command);
@@ -88,7 +93,7 @@ void TestMainWindowTimeAnswers::duringWrite()
 void TestMainWindowTimeAnswers::duringStart()
 {
     QFETCH(const int, command);
-    WaitingRig waiting;
+    QuickRig waiting;
     TimeRig& rig = waiting.rig;
     rig.plugAndConnect(secureLogger());
     expectStartConfirm(rig.robot, Yes);

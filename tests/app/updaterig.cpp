@@ -19,6 +19,7 @@ UpdateRig::UpdateRig(const QByteArray& file, const Settings& settings)
     , rig(settings)
     , checker(rig.window.findChild<UpdateChecker*>())
 {
+    rig.skipIdleWaits();
     if (!QTest::qWaitFor([this] { return !server.requests().isEmpty(); }))
         qFatal("nobody asks for the version file");
 }
