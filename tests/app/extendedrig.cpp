@@ -39,9 +39,9 @@ LoggerModel secureLogger(bool multiuse)
     return model;
 }
 
-LoggerModel lockedLogger(LoggerModel::State state)
+LoggerModel lockedLogger(LoggerModel::State state, bool multiuse)
 {
-    LoggerModel model = secureLogger();
+    LoggerModel model = secureLogger(multiuse);
     model.settings().password = rightPassword;
     model.settings().locked = true;
     model.settings().state = state;
@@ -63,9 +63,18 @@ QList<QByteArray> extendedConnectCommands(bool multiuse)
     return QList<QByteArray>{"i"} + extendedReadCommands(multiuse);
 }
 
-QList<QByteArray> lockedConnectCommands()
+QList<QByteArray> lockedConnectCommands(bool multiuse)
 {
-    return QList<QByteArray>{"i", "i", "#", "x", "G0", "G1", "G2", "?Secret"} + extendedReadCommands().mid(2);
+    return QList<QByteArray>{"i", "i", "#", "x", "G0", "G1", "G2", "?Secret"} +
+           extendedReadCommands(multiuse).mid(2);
+}
+
+QList<QByteArray> withRepair(QList<QByteArray> commands)
+{
+    const int clock = commands.indexOf("g");
+    commands.insert(clock + 1, "u");
+    commands.insert(clock + 2, "Sz00000000");
+    return commands;
 }
 
 QList<QByteArray> extendedWriteCommands()

@@ -12,7 +12,7 @@ class PasswordDialog;
 /// Firmware 1.2.0 and a value of its own in every place that came with it, but no password.
 LoggerModel secureLogger(bool multiuse = true);
 /// The same with the password "Secret", and locked.
-LoggerModel lockedLogger(LoggerModel::State state = LoggerModel::State::Idle);
+LoggerModel lockedLogger(LoggerModel::State state = LoggerModel::State::Idle, bool multiuse = true);
 const QString rightPassword = QStringLiteral("Secret");
 
 /// What a read sends to extended firmware that isn't locked, in its order. The last command comes with the
@@ -21,7 +21,10 @@ QList<QByteArray> extendedReadCommands(bool multiuse = true);
 /// The proof of identity and then a read.
 QList<QByteArray> extendedConnectCommands(bool multiuse = true);
 /// The same with a lockedLogger(), which takes the first password tried.
-QList<QByteArray> lockedConnectCommands();
+QList<QByteArray> lockedConnectCommands(bool multiuse = true);
+/// @p commands, of a read or a connect, with the repair of an impossible clock, whose "u" stands without its
+/// seconds.
+QList<QByteArray> withRepair(QList<QByteArray> commands);
 /// What a write of the values of secureLogger() sends without a reference time.
 QList<QByteArray> extendedWriteCommands();
 

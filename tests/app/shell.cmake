@@ -18,7 +18,7 @@ foreach(concern time zonelabel)
     MOCK NETWORK X11
   )
 endforeach()
-foreach(concern validity validityinterruptions extendedinterruptions timesync timesyncfaults timesyncvalues timeanswers repair)
+foreach(concern validity validityinterruptions extendedinterruptions timesync timesyncfaults timesyncvalues timeanswers poolanswers repair)
   brumalogger_add_test(tst_mainwindow_${concern} SOURCES timerig.cpp timerig.h tst_mainwindow_${concern}.cpp
     LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time
     MOCK NETWORK
@@ -39,10 +39,12 @@ brumalogger_add_test(tst_mainwindow_updates SOURCES updaterig.cpp updaterig.h ts
   LINK brumalogger_proceduretests brumalogger_update brumalogger_webtests
   MOCK NETWORK X11
 )
-brumalogger_add_test(tst_mainwindow_prompts SOURCES updaterig.cpp updaterig.h tst_mainwindow_prompts.cpp
-  LINK brumalogger_proceduretests brumalogger_update brumalogger_webtests
-  MOCK NETWORK
-)
+foreach(concern prompts mandatoryprompts promptboxes promptdialogs promptchecks)
+  brumalogger_add_test(tst_mainwindow_${concern} SOURCES updaterig.cpp updaterig.h tst_mainwindow_${concern}.cpp
+    LINK brumalogger_proceduretests brumalogger_update brumalogger_webtests
+    MOCK NETWORK
+  )
+endforeach()
 brumalogger_add_test(tst_mainwindow_promptanswers
   SOURCES timerig.cpp timerig.h updaterig.cpp updaterig.h tst_mainwindow_promptanswers.cpp
   LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time brumalogger_update brumalogger_webtests

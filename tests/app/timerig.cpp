@@ -33,6 +33,11 @@ void Servers::answer(const NtpAnswer& answer)
         server->setAnswer(answer);
 }
 
+void Servers::answer(int number, const NtpAnswer& answer)
+{
+    all.at(static_cast<size_t>(number - 1))->setAnswer(answer);
+}
+
 void Servers::release()
 {
     for (const auto& server : all)

@@ -34,6 +34,8 @@ class Servers
 public:
     Servers();
     void answer(const NtpAnswer& answer);
+    /// The same for one of them, from 1 on.
+    void answer(int number, const NtpAnswer& answer);
     void release();
     int requests() const;
 

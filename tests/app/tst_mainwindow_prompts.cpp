@@ -1,5 +1,5 @@
-// A prompt for a newer version comes in the middle of a procedure or over another dialog. Nothing comes of
-// the one; the other closes the window, and nothing more is said or sent.
+// A prompt for a newer version comes in the middle of a procedure, at every single exchange: nothing comes of
+// it whatever the answer, which goes by turns.
 
 #include "extendedrig.h"
 #include "support/nextchance.h"
@@ -7,34 +7,42 @@
 #include "windowstate.h"
 #include "windowwords.h"
 
-#include <QAction>
 #include <QTest>
 
 using namespace WindowWords;
 
 namespace {
 
-constexpr auto Ok = QMessageBox::Ok;
-constexpr auto Cancel = QMessageBox::Cancel;
-const QString newest = QStringLiteral("1.4.0");
 const QString readDone = QStringLiteral("Read successful");
 const QString writeDone = QStringLiteral("Write successful");
 
-/// An update rig whose window is connected to a logger.
-struct ConnectedRig : UpdateRig
-{
-    explicit ConnectedRig(const QByteArray& file)
-        : UpdateRig(file)
-    {
-        rig.plugAndConnect(secureLogger());
-    }
-};
+using CommandList = QList<QByteArray> (*)(bool multiuse);
 
-/// Commands of a procedure: the first, one in the middle, the last but one and the last.
-void addSomeCommandRows(const QList<QByteArray>& commands)
+/// Rows for every command of both types of logger.
+void addRowsOfBothTypes(CommandList commandsOf)
 {
-    const int last = commands.size();
-    addCommandRows(commands, {1, last / 2, last - 1, last});
+    QTest::addColumn<bool>("multiuse");
+    QTest::addColumn<int>("command");
+    for (const bool multiuse : {true, false}) {
+        const QList<QByteArray> commands = commandsOf(multiuse);
+        for (int number = 1; number <= commands.size(); ++number)
+            QTest::addRow("%s, %d %s", multiuse ? "Multiuse" : "Single-use", number,
+                          commands.at(number - 1).left(2).constData())
+                << multiuse << number;
+    }
+}
+
+/// The newer version is on offer at the n-th command from now.
+void offerAt(UpdateRig& update, int command)
+{
+    expectUpdate(update.rig.robot, newestVersion, command % 2 == 1 ? QMessageBox::Ok : QMessageBox::Cancel);
+    update.promptAt(command);
+}
+
+/// What the browser shows after that.
+QList<QUrl> addressesAfter(int command)
+{
+    return command % 2 == 1 ? newerAddress : QList<QUrl>();
 }
 
 } // namespace
@@ -44,171 +52,85 @@ class TestMainWindowPrompts : public QObject
     Q_OBJECT
 
 private slots:
-    void duringConnect_data() { addCommandRows(lockedConnectCommands(), {1, 2, 4, 8, 9, 27, 28}); }
+    void duringConnect_data() { addRowsOfBothTypes(&lockedConnectCommands); }
     void duringConnect();
-    void duringRead_data() { addSomeCommandRows(extendedReadCommands()); }
+    void duringRead_data() { addRowsOfBothTypes(&extendedReadCommands); }
     void duringRead();
-    void duringWrite_data() { addSomeCommandRows(extendedWriteCommands()); }
+    void duringWrite_data() { addCommandRows(extendedWriteCommands()); }
     void duringWrite();
     void duringStart_data() { addCommandRows({"Go", "a"}); }
     void duringStart();
     void longDuringRead();
-    void closesDuringConnect_data() { addSomeCommandRows(lockedConnectCommands()); }
-    void closesDuringConnect();
-    void closesDuringRead_data() { addCommandRows(extendedReadCommands()); }
-    void closesDuringRead();
-    void closesDuringWrite_data() { addCommandRows(extendedWriteCommands()); }
-    void closesDuringWrite();
-    void closesDuringStart_data() { addCommandRows({"Go", "a"}); }
-    void closesDuringStart();
-    void staysDuringReadAfterNo();
     void overTheUnlockDialog();
-    void closesOverTheUnlockDialog();
-    void overAQuestion();
-    void closesOverAQuestion_data();
-    void closesOverAQuestion();
-    void overTheExitQuestion_data();
-    void overTheExitQuestion();
-    void closesOverADialog_data();
-    void closesOverADialog();
 };
 
 void TestMainWindowPrompts::duringConnect()
 {
+    QFETCH(const bool, multiuse);
     QFETCH(const int, command);
     UpdateRig update(newerFile);
     ProcedureRig& rig = update.rig;
-    rig.plug(lockedLogger());
+    rig.plug(lockedLogger(LoggerModel::State::Idle, multiuse));
     const UnlockHand hand(rig, {rightPassword});
-    expectUpdate(rig.robot, newest, Cancel);
-    update.promptAt(command);
+    offerAt(update, command);
     rig.press("buttonConnect");
     QVERIFY(update.prompted);
-    QCOMPARE(rig.wire(), lockedConnectCommands());
+    QCOMPARE(hand.showings(), 1);
+    QCOMPARE(rig.wire(), lockedConnectCommands(multiuse));
+    QCOMPARE(update.browser.opened, addressesAfter(command));
     QCOMPARE(differences(rig, connected()), QString());
 }
 
 void TestMainWindowPrompts::duringRead()
 {
+    QFETCH(const bool, multiuse);
     QFETCH(const int, command);
-    ConnectedRig update(newerFile);
-    expectUpdate(update.rig.robot, newest, Ok);
-    update.promptAt(command);
+    ConnectedUpdateRig update(newerFile, secureLogger(multiuse));
+    offerAt(update, command);
     update.rig.press("buttonRead");
     QVERIFY(update.prompted);
-    QCOMPARE(update.rig.wire(), extendedReadCommands());
-    QCOMPARE(update.browser.opened, newerAddress);
+    QCOMPARE(update.rig.wire(), extendedReadCommands(multiuse));
+    QCOMPARE(update.browser.opened, addressesAfter(command));
     QCOMPARE(differences(update.rig, idle(readDone, false)), QString());
 }
 
 void TestMainWindowPrompts::duringWrite()
 {
     QFETCH(const int, command);
-    ConnectedRig update(newerFile);
-    expectUpdate(update.rig.robot, newest, Ok);
-    update.promptAt(command);
+    ConnectedUpdateRig update(newerFile, secureLogger());
+    offerAt(update, command);
     update.rig.press("buttonWrite");
     QVERIFY(update.prompted);
     QCOMPARE(update.rig.wire(), extendedWriteCommands());
+    QCOMPARE(update.browser.opened, addressesAfter(command));
     QCOMPARE(differences(update.rig, idle(writeDone, false)), QString());
 }
 
 void TestMainWindowPrompts::duringStart()
 {
     QFETCH(const int, command);
-    ConnectedRig update(newerFile);
+    ConnectedUpdateRig update(newerFile, secureLogger());
     expectStartConfirm(update.rig.robot, Yes);
-    expectUpdate(update.rig.robot, newest, Ok);
-    update.promptAt(command);
+    offerAt(update, command);
     update.rig.press("buttonStart");
     QVERIFY(update.prompted);
     QCOMPARE(update.rig.wire(), QList<QByteArray>({"Go", "a"}));
+    QCOMPARE(update.browser.opened, addressesAfter(command));
     QCOMPARE(differences(update.rig, disconnected()), QString());
 }
 
 // The answer to a command is taken while the prompt is open, and is still good when it goes.
 void TestMainWindowPrompts::longDuringRead()
 {
-    ConnectedRig update(newerFile);
+    ConnectedUpdateRig update(newerFile, secureLogger());
     ProcedureRig& rig = update.rig;
     rig.atCommand(2, [&] { atNextChance(&rig.window, [&] { update.prompted = update.prompt(); }); });
     connect(&rig.robot, &DialogRobot::sBoxOpened, &rig.window, [] { QTest::qWait(300); });
-    expectUpdate(rig.robot, newest, Ok);
+    expectUpdate(rig.robot, newestVersion, QMessageBox::Ok);
     rig.press("buttonRead");
     QVERIFY(update.prompted);
     QCOMPARE(rig.wire(), extendedReadCommands());
     QCOMPARE(differences(rig, idle(readDone, false)), QString());
-}
-
-void TestMainWindowPrompts::closesDuringConnect()
-{
-    QFETCH(const int, command);
-    UpdateRig update(mandatoryFile);
-    ProcedureRig& rig = update.rig;
-    rig.plug(lockedLogger());
-    const UnlockHand hand(rig, {rightPassword});
-    expectMandatoryUpdate(rig.robot, newest, Ok);
-    const int modifiedFrom = lockedConnectCommands().indexOf("Gt") + 2;
-    if (command >= modifiedFrom && command < lockedConnectCommands().size())
-        expectExit(rig.robot, Yes);
-    update.promptAt(command);
-    rig.press("buttonConnect");
-    QVERIFY(update.prompted);
-    QCOMPARE(closedWindowRemains(rig), QString());
-    QCOMPARE(rig.wire(), firstOf(lockedConnectCommands(), command));
-    QCOMPARE(update.browser.opened, newerAddress);
-}
-
-void TestMainWindowPrompts::closesDuringRead()
-{
-    QFETCH(const int, command);
-    ConnectedRig update(mandatoryFile);
-    expectMandatoryUpdate(update.rig.robot, newest, Cancel);
-    if (command >= 3 && command < extendedReadCommands().size())
-        expectExit(update.rig.robot, Yes);
-    update.promptAt(command);
-    update.rig.press("buttonRead");
-    QVERIFY(update.prompted);
-    QCOMPARE(closedWindowRemains(update.rig), QString());
-    QCOMPARE(update.rig.wire(), firstOf(extendedReadCommands(), command));
-    QCOMPARE(update.browser.opened, QList<QUrl>());
-}
-
-void TestMainWindowPrompts::closesDuringWrite()
-{
-    QFETCH(const int, command);
-    ConnectedRig update(mandatoryFile);
-    expectMandatoryUpdate(update.rig.robot, newest, Ok);
-    update.promptAt(command);
-    update.rig.press("buttonWrite");
-    QVERIFY(update.prompted);
-    QCOMPARE(closedWindowRemains(update.rig), QString());
-    QCOMPARE(update.rig.wire(), firstOf(extendedWriteCommands(), command));
-}
-
-void TestMainWindowPrompts::closesDuringStart()
-{
-    QFETCH(const int, command);
-    ConnectedRig update(mandatoryFile);
-    expectStartConfirm(update.rig.robot, Yes);
-    expectMandatoryUpdate(update.rig.robot, newest, Ok);
-    update.promptAt(command);
-    update.rig.press("buttonStart");
-    QVERIFY(update.prompted);
-    QCOMPARE(closedWindowRemains(update.rig), QString());
-    QCOMPARE(update.rig.wire(), firstOf({"Go", "a"}, command));
-}
-
-void TestMainWindowPrompts::staysDuringReadAfterNo()
-{
-    ConnectedRig update(mandatoryFile);
-    expectMandatoryUpdate(update.rig.robot, newest, Ok);
-    expectExit(update.rig.robot, No);
-    update.promptAt(extendedReadCommands().size() / 2);
-    update.rig.press("buttonRead");
-    QVERIFY(update.prompted);
-    QCOMPARE(update.rig.wire(), extendedReadCommands());
-    QCOMPARE(differences(update.rig, idle(readDone, false)), QString());
 }
 
 void TestMainWindowPrompts::overTheUnlockDialog()
@@ -218,125 +140,12 @@ void TestMainWindowPrompts::overTheUnlockDialog()
     rig.plug(lockedLogger());
     const UnlockHand hand(rig, {rightPassword});
     connect(&hand, &UnlockHand::sShown, &rig.window, [&update] { update.prompted = update.prompt(); });
-    expectUpdate(rig.robot, newest, Ok);
+    expectUpdate(rig.robot, newestVersion, QMessageBox::Ok);
     rig.press("buttonConnect");
     QVERIFY(update.prompted);
     QCOMPARE(hand.showings(), 1);
     QCOMPARE(rig.wire(), lockedConnectCommands());
     QCOMPARE(differences(rig, connected()), QString());
-}
-
-void TestMainWindowPrompts::closesOverTheUnlockDialog()
-{
-    UpdateRig update(mandatoryFile);
-    ProcedureRig& rig = update.rig;
-    rig.plug(lockedLogger());
-    const UnlockHand hand(rig, {});
-    connect(&hand, &UnlockHand::sShown, &rig.window, [&update] {
-        update.prompted = update.prompt();
-        QTRY_VERIFY(!update.rig.window.isVisible());
-    });
-    expectMandatoryUpdate(rig.robot, newest, Ok);
-    rig.press("buttonConnect");
-    QVERIFY(update.prompted);
-    QCOMPARE(closedWindowRemains(rig), QString());
-    QCOMPARE(rig.wire(), firstOf(lockedConnectCommands(), lockedConnectCommands().indexOf("?Secret")));
-}
-
-// The prompt is on top and answered first.
-void TestMainWindowPrompts::overAQuestion()
-{
-    ConnectedRig update(newerFile);
-    ProcedureRig& rig = update.rig;
-    rig.type("lineInfo", QStringLiteral("Batch 8"));
-    update.promptOverTheNextBox();
-    expectUpdate(rig.robot, newest, Ok);
-    expectReadQuestion(rig.robot, No);
-    rig.press("buttonRead");
-    QVERIFY(update.prompted);
-    QCOMPARE(rig.wire(), QList<QByteArray>());
-    QCOMPARE(update.browser.opened, newerAddress);
-    QCOMPARE(differences(rig, idle(connected().status, true)), QString());
-}
-
-void TestMainWindowPrompts::closesOverAQuestion_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::newRow("read") << QStringLiteral("buttonRead");
-    QTest::newRow("start") << QStringLiteral("buttonStart");
-    QTest::newRow("disconnect") << QStringLiteral("buttonConnect");
-}
-
-void TestMainWindowPrompts::closesOverAQuestion()
-{
-    QFETCH(const QString, button);
-    ConnectedRig update(mandatoryFile);
-    ProcedureRig& rig = update.rig;
-    rig.type("lineInfo", QStringLiteral("Batch 8"));
-    update.promptOverTheNextBox();
-    connect(&rig.robot, &DialogRobot::sBoxOpened, &rig.window, [&](const QString& title) {
-        if (title != QStringLiteral("Update Required") && title != QStringLiteral("Exit"))
-            QTRY_VERIFY(!rig.window.isVisible());
-    });
-    expectMandatoryUpdate(rig.robot, newest, Ok);
-    expectExit(rig.robot, Yes);
-    if (button == QStringLiteral("buttonRead"))
-        expectReadQuestion(rig.robot, Yes);
-    else if (button == QStringLiteral("buttonStart"))
-        expectStartModified(rig.robot, Yes);
-    else
-        expectDisconnecting(rig.robot, Yes);
-    rig.press(qPrintable(button));
-    QVERIFY(update.prompted);
-    QCOMPARE(closedWindowRemains(rig), QString());
-    QCOMPARE(rig.wire(), QList<QByteArray>());
-}
-
-void TestMainWindowPrompts::overTheExitQuestion_data()
-{
-    QTest::addColumn<bool>("exits");
-    QTest::newRow("Yes") << true;
-    QTest::newRow("No") << false;
-}
-
-// A window that is about to close isn't closed once more, so the question is asked once.
-void TestMainWindowPrompts::overTheExitQuestion()
-{
-    QFETCH(const bool, exits);
-    ConnectedRig update(mandatoryFile);
-    ProcedureRig& rig = update.rig;
-    rig.type("lineInfo", QStringLiteral("Batch 8"));
-    update.promptOverTheNextBox();
-    expectMandatoryUpdate(rig.robot, newest, Ok);
-    expectExit(rig.robot, exits ? Yes : No);
-    QCOMPARE(rig.window.close(), exits);
-    QVERIFY(update.prompted);
-    if (exits)
-        QCOMPARE(closedWindowRemains(rig), QString());
-    else
-        QCOMPARE(differences(rig, idle(connected().status, true)), QString());
-}
-
-void TestMainWindowPrompts::closesOverADialog_data()
-{
-    QTest::addColumn<QString>("opener");
-    QTest::newRow("settings") << QStringLiteral("actionSettings");
-    QTest::newRow("advanced options") << QStringLiteral("buttonAdvanced");
-}
-
-void TestMainWindowPrompts::closesOverADialog()
-{
-    QFETCH(const QString, opener);
-    ConnectedRig update(mandatoryFile);
-    ProcedureRig& rig = update.rig;
-    atNextChance(&rig.window, [&] { update.prompted = update.prompt(); });
-    expectMandatoryUpdate(rig.robot, newest, Ok);
-    if (opener.startsWith(QLatin1String("action")))
-        rig.find<QAction>(qPrintable(opener))->trigger();
-    else
-        rig.press(qPrintable(opener));
-    QVERIFY(update.prompted);
-    QCOMPARE(closedWindowRemains(rig), QString());
 }
 
 QTEST_MAIN(TestMainWindowPrompts)

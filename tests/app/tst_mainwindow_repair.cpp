@@ -17,15 +17,6 @@ namespace {
 constexpr int threeDays = 3 * 86400;
 constexpr int eightYears = 8 * 366 * 86400;
 
-/// The commands of a read with a repair, whose "u" stands without its seconds.
-QList<QByteArray> withRepair(QList<QByteArray> commands)
-{
-    const int clock = commands.indexOf("g");
-    commands.insert(clock + 1, "u");
-    commands.insert(clock + 2, "Sz00000000");
-    return commands;
-}
-
 /// A logger that says 1970, once.
 struct RepairRig : ReadingRig
 {

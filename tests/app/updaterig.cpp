@@ -36,13 +36,33 @@ void UpdateRig::promptAt(int command)
     rig.atCommand(command, [this] { prompted = prompt(); });
 }
 
-void UpdateRig::promptOverTheNextBox()
+void UpdateRig::promptOverBox(int box)
 {
-    auto* once = new QObject(&rig.robot);
-    QObject::connect(&rig.robot, &DialogRobot::sBoxOpened, once, [this, once] {
-        delete once;
-        prompted = prompt();
-    });
+    overBox(box, [this] { return prompt(); });
+}
+
+void UpdateRig::closeOverBox(int box)
+{
+    overBox(box, [this] { return prompt() && QTest::qWaitFor([this] { return !rig.window.isVisible(); }); });
+}
+
+void UpdateRig::overBox(int box, const std::function<bool()>& action)
+{
+    auto* watcher = new QObject(&rig.robot);
+    QObject::connect(&rig.robot, &DialogRobot::sBoxOpened, watcher,
+                     [this, watcher, action, left = box]() mutable {
+                         if (--left == 0) {
+                             watcher->deleteLater();
+                             prompted = action();
+                         }
+                     });
+}
+
+ConnectedUpdateRig::ConnectedUpdateRig(const QByteArray& file, const LoggerModel& model,
+                                       const Settings& settings)
+    : UpdateRig(file, settings)
+{
+    rig.plugAndConnect(model);
 }
 
 bool UpdateRig::release()
