@@ -168,6 +168,8 @@ void PasswordDialog::plUnlock()
     }
     if (!answered) {
         plWarn(tr("Failed while trying to unlock device."));
+        if (!isVisible()) // rejected meanwhile, with the window
+            return;
         QDialog::done(QDialog::Accepted);
     }
     if (unlocked) {

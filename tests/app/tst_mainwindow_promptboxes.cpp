@@ -88,7 +88,8 @@ void connectAndUseOptions(ProcedureRig& rig, int policies, void (*use)(AdvancedO
     options(rig)->lSetPassword(rightPassword);
     atNextChance(options(rig), [&rig, use] {
         use(options(rig));
-        options(rig)->reject();
+        if (options(rig)->isVisible())
+            options(rig)->reject();
     });
 }
 
