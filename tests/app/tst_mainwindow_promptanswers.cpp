@@ -1,4 +1,5 @@
-// The answer of a time server comes while a prompt for a newer version is open.
+// A prompt for a newer version and the answer of a time server cross: the one comes while the other is being
+// told, or while the logger is asked whether the new time makes it invalid.
 
 #include "extendedrig.h"
 #include "timerig.h"
@@ -12,6 +13,7 @@ using namespace WindowWords;
 
 namespace {
 
+constexpr auto Ok = QMessageBox::Ok;
 constexpr qint64 threeDays = Q_INT64_C(3) * 86400 * 1000;
 const QString foundInvalid = QStringLiteral("Disconnected from ttyACM0");
 
@@ -21,19 +23,35 @@ struct WaitingServers : Servers
     explicit WaitingServers(qint64 ahead) { answer(NtpAnswer::currentTime(ahead).later()); }
 };
 
-} // namespace
-
-class TestMainWindowPromptAnswers : public QObject
+/// A connected Single-use logger, and a time to judge it by that is @p ahead milliseconds ahead.
+class JudgingRig
 {
-    Q_OBJECT
+public:
+    JudgingRig(const QByteArray& file, qint64 ahead)
+        : servers(ahead)
+        , update(file, secureLogger(false), timeSettings())
+    {
+        if (!QTest::qWaitFor([this] { return servers.requests() > 0; }))
+            qFatal("nobody asks for the time");
+    }
 
-private slots:
-    void answers_data();
-    void answers();
+    /// Lets the time come, and returns once the window has done all that follows from it.
+    bool tellTimeUntil(const QString& status)
+    {
+        servers.release();
+        return QTest::qWaitFor([&] { return update.rig.status() == status; }, queryPatience);
+    }
+    bool tellTimeUntilClosed()
+    {
+        servers.release();
+        return QTest::qWaitFor([this] { return !update.rig.window.isVisible(); }, queryPatience);
+    }
+
+    WaitingServers servers;
+    ConnectedUpdateRig update;
 };
 
-// A time far off makes a Single-use logger invalid: that is said over the prompt, and the logger is gone.
-void TestMainWindowPromptAnswers::answers_data()
+void addAheadRows()
 {
     QTest::addColumn<qint64>("ahead");
     QTest::addColumn<QString>("status");
@@ -41,29 +59,147 @@ void TestMainWindowPromptAnswers::answers_data()
     QTest::newRow("logger is invalid") << threeDays << foundInvalid;
 }
 
+void addModifiedRows()
+{
+    QTest::addColumn<bool>("modified");
+    QTest::newRow("without changes") << false;
+    QTest::newRow("with changes") << true;
+}
+
+} // namespace
+
+class TestMainWindowPromptAnswers : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void answers_data() { addAheadRows(); }
+    void answers();
+    void duringTheQuestion_data() { addAheadRows(); }
+    void duringTheQuestion();
+    void closesDuringTheQuestion_data() { addAheadRows(); }
+    void closesDuringTheQuestion();
+    void overInvalidDevice();
+    void closesOverInvalidDevice_data() { addModifiedRows(); }
+    void closesOverInvalidDevice();
+    void overTheDisconnect();
+    void closesOverTheDisconnect();
+};
+
+// A time far off makes a Single-use logger invalid: that is said over the prompt, and the logger is gone.
 void TestMainWindowPromptAnswers::answers()
 {
     QFETCH(const qint64, ahead);
     QFETCH(const QString, status);
-    WaitingServers servers(ahead);
-    UpdateRig update(newerFile, timeSettings());
+    JudgingRig judging(newerFile, ahead);
+    UpdateRig& update = judging.update;
     ProcedureRig& rig = update.rig;
-    rig.plugAndConnect(secureLogger(false));
-    QTRY_VERIFY(servers.requests() > 0);
     bool told = false;
     connect(&rig.robot, &DialogRobot::sBoxOpened, &rig.window, [&](const QString& title) {
-        if (title != QStringLiteral("Update Available"))
-            return;
-        servers.release();
-        told = QTest::qWaitFor([&] { return rig.status() == status; }, queryPatience);
+        if (title == QStringLiteral("Update Available"))
+            told = judging.tellTimeUntil(status);
     });
     if (status == foundInvalid)
         expectInvalidDevice(rig.robot);
-    expectUpdate(rig.robot, QStringLiteral("1.4.0"), QMessageBox::Ok);
+    expectUpdate(rig.robot, newestVersion, Ok);
     QVERIFY(update.prompt());
     QVERIFY(told);
     QCOMPARE(update.browser.opened, newerAddress);
     QCOMPARE(differences(rig, status == foundInvalid ? disconnected() : idle(status, false)), QString());
+}
+
+// The judgement is told behind the prompt.
+void TestMainWindowPromptAnswers::duringTheQuestion()
+{
+    QFETCH(const qint64, ahead);
+    QFETCH(const QString, status);
+    JudgingRig judging(newerFile, ahead);
+    UpdateRig& update = judging.update;
+    expectUpdate(update.rig.robot, newestVersion, Ok);
+    if (status == foundInvalid)
+        expectInvalidDevice(update.rig.robot);
+    update.promptAt(1);
+    QVERIFY(judging.tellTimeUntil(status));
+    QTRY_VERIFY(update.prompted);
+    QTRY_COMPARE(update.rig.wire(), QList<QByteArray>({"m"}));
+    QCOMPARE(update.browser.opened, newerAddress);
+    QCOMPARE(differences(update.rig, status == foundInvalid ? disconnected() : idle(status, false)),
+             QString());
+}
+
+void TestMainWindowPromptAnswers::closesDuringTheQuestion()
+{
+    QFETCH(const qint64, ahead);
+    JudgingRig judging(mandatoryFile, ahead);
+    UpdateRig& update = judging.update;
+    expectMandatoryUpdate(update.rig.robot, newestVersion, Ok);
+    update.promptAt(1);
+    QVERIFY(judging.tellTimeUntilClosed());
+    QVERIFY(update.prompted);
+    QCOMPARE(closedWindowRemains(update.rig), QString());
+    QCOMPARE(update.rig.wire(), QList<QByteArray>({"m"}));
+}
+
+void TestMainWindowPromptAnswers::overInvalidDevice()
+{
+    JudgingRig judging(newerFile, threeDays);
+    UpdateRig& update = judging.update;
+    expectUpdate(update.rig.robot, newestVersion, Ok);
+    expectInvalidDevice(update.rig.robot);
+    update.promptOverBox();
+    QVERIFY(judging.tellTimeUntil(foundInvalid));
+    QVERIFY(update.prompted);
+    QCOMPARE(update.rig.wire(), QList<QByteArray>({"m"}));
+    QCOMPARE(differences(update.rig, disconnected()), QString());
+}
+
+void TestMainWindowPromptAnswers::closesOverInvalidDevice()
+{
+    QFETCH(const bool, modified);
+    JudgingRig judging(mandatoryFile, threeDays);
+    UpdateRig& update = judging.update;
+    if (modified)
+        update.rig.type("lineInfo", QStringLiteral("Batch 8"));
+    expectMandatoryUpdate(update.rig.robot, newestVersion, Ok);
+    if (modified)
+        expectExit(update.rig.robot, Yes);
+    expectInvalidDevice(update.rig.robot);
+    update.closeOverBox();
+    QVERIFY(judging.tellTimeUntilClosed());
+    QTRY_VERIFY(update.prompted);
+    QCOMPARE(closedWindowRemains(update.rig), QString());
+    QCOMPARE(update.rig.wire(), QList<QByteArray>({"m"}));
+}
+
+void TestMainWindowPromptAnswers::overTheDisconnect()
+{
+    JudgingRig judging(newerFile, threeDays);
+    UpdateRig& update = judging.update;
+    update.rig.type("lineInfo", QStringLiteral("Batch 8"));
+    expectInvalidDevice(update.rig.robot);
+    expectUpdate(update.rig.robot, newestVersion, Ok);
+    expectDisconnecting(update.rig.robot, Yes);
+    update.promptOverBox(2);
+    QVERIFY(judging.tellTimeUntil(foundInvalid));
+    QVERIFY(update.prompted);
+    QCOMPARE(update.rig.wire(), QList<QByteArray>({"m"}));
+    QCOMPARE(differences(update.rig, disconnected()), QString());
+}
+
+void TestMainWindowPromptAnswers::closesOverTheDisconnect()
+{
+    JudgingRig judging(mandatoryFile, threeDays);
+    UpdateRig& update = judging.update;
+    update.rig.type("lineInfo", QStringLiteral("Batch 8"));
+    expectInvalidDevice(update.rig.robot);
+    expectMandatoryUpdate(update.rig.robot, newestVersion, Ok);
+    expectExit(update.rig.robot, Yes);
+    expectDisconnecting(update.rig.robot, Yes);
+    update.closeOverBox(2);
+    QVERIFY(judging.tellTimeUntilClosed());
+    QTRY_VERIFY(update.prompted);
+    QCOMPARE(closedWindowRemains(update.rig), QString());
+    QCOMPARE(update.rig.wire(), QList<QByteArray>({"m"}));
 }
 
 QTEST_MAIN(TestMainWindowPromptAnswers)

@@ -64,6 +64,7 @@ private slots:
     void closingWhileTryingTheWrongOne();
     void closingWhileTryingInVain_data();
     void closingWhileTryingInVain();
+    void closingOverTheFirstWarning();
     void acceptingWhileShowing_data() { addCommands(); }
     void acceptingWhileShowing();
     void acceptingWhileTrying_data();
@@ -152,6 +153,21 @@ void TestPasswordDialogInterruptions::closingWhileTryingInVain()
     QVERIFY(!desk.dialog.lUnlocked());
     QVERIFY(!desk.dialog.isVisible());
     QVERIFY(desk.robot.boxes().isEmpty());
+}
+
+// Only the program can do so, and it has nothing more to say then.
+void TestPasswordDialogInterruptions::closingOverTheFirstWarning()
+{
+    PasswordDesk desk;
+    desk.disturb("?", Fault::Kind::Silence);
+    desk.robot.expectWarning(QStringLiteral("Unlock device"),
+                             QStringLiteral("Failed while trying to unlock device."));
+    connect(&desk.robot, &DialogRobot::sBoxOpened, &desk.dialog, [&desk] { desk.dialog.reject(); });
+    QCOMPARE(desk.run([&] { desk.tryPassword(rightPassword()); }), int(QDialog::Rejected));
+    QVERIFY(!desk.dialog.lUnlocked());
+    QCOMPARE(desk.robot.problems(), QString());
+    desk.robot.disconnect(&desk.dialog);
+    QCOMPARE(troubleWithNextUse(desk), QString());
 }
 
 // It isn't on the screen yet, so only the program itself could do so.
