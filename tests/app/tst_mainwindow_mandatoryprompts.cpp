@@ -48,6 +48,7 @@ void TestMainWindowMandatoryPrompts::duringConnect()
     rig.plug(lockedLogger());
     const UnlockHand hand(rig, {rightPassword});
     expectMandatoryUpdate(rig.robot, newestVersion, Ok);
+    const int lastOfTheLock = lockedConnectCommands().indexOf("?Secret") + 1;
     const int modifiedFrom = lockedConnectCommands().indexOf("Gt") + 2;
     if (command >= modifiedFrom && command < lockedConnectCommands().size())
         expectExit(rig.robot, Yes);
@@ -56,7 +57,9 @@ void TestMainWindowMandatoryPrompts::duringConnect()
     QVERIFY(update.prompted);
     QCOMPARE(closedWindowRemains(rig), QString());
     QCOMPARE(rig.wire(), firstOf(lockedConnectCommands(), command));
-    QCOMPARE(rig.logger->model().settings().locked, command <= lockedConnectCommands().indexOf("?Secret"));
+    QCOMPARE(rig.logger->model().settings().locked, command < lastOfTheLock);
+    QCOMPARE(rig.takeStatusLog().contains(QStringLiteral("Reading from device on ttyACM0")),
+             command > lastOfTheLock);
     QCOMPARE(update.browser.opened, newerAddress);
 }
 

@@ -138,6 +138,7 @@ void TestMainWindowPromptAnswers::closesDuringTheQuestion()
     QVERIFY(update.prompted);
     QCOMPARE(closedWindowRemains(update.rig), QString());
     QCOMPARE(update.rig.wire(), QList<QByteArray>({"m"}));
+    QVERIFY(!update.rig.takeStatusLog().contains(QStringLiteral("Invalid device detected.")));
 }
 
 void TestMainWindowPromptAnswers::overInvalidDevice()

@@ -255,6 +255,7 @@ void TestMainWindowPromptChecks::closesDuringTestOfValidity()
     QVERIFY(update.prompted);
     QCOMPARE(closedWindowRemains(update.rig), QString());
     QCOMPARE(update.rig.wire(), update.commands);
+    QVERIFY(!update.rig.takeStatusLog().contains(QStringLiteral("Invalid device detected.")));
 }
 
 void TestMainWindowPromptChecks::overInvalidDevice()
