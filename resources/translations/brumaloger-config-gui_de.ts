@@ -555,7 +555,7 @@ Es kann keine Verbindung hergestellt werden. Vorgang abgebrochen.</translation>
     </message>
     <message>
         <source>Unable to fetch date and time from %1. Check your connections or try another server.</source>
-        <translation>Datum und Uhrzeit konnten nicht von %1 abgerufen werden. Prüfen Sie Ihre Verbindungen oder versuchen Sie es mit einem anderen Server.</translation>
+        <translation>Datum und Uhrzeit von %1 nicht erhalten. Verbindungen prüfen oder anderen Server versuchen.</translation>
     </message>
     <message>
         <source>Copy as text...</source>
@@ -928,7 +928,7 @@ Nach dem Entsperren sind die Messberichte verfügbar.</translation>
     </message>
     <message>
         <source>Enforce use of time server</source>
-        <translation>Verwendung eines Zeitservers erzwingen</translation>
+        <translation>Zeitserver zwingend verwenden</translation>
     </message>
     <message>
         <source>Fetch time reference from time server instead of using local computer time.</source>

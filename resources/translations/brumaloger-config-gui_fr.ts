@@ -555,7 +555,7 @@ La connexion ne peut pas être établie. Abandon.</translation>
     </message>
     <message>
         <source>Unable to fetch date and time from %1. Check your connections or try another server.</source>
-        <translation>Impossible d&apos;obtenir la date et l&apos;heure (source&#xa0;: %1). Vérifiez vos connexions ou essayez un autre serveur.</translation>
+        <translation>Date et heure non obtenues (source&#xa0;: %1). Vérifiez vos connexions ou essayez un autre serveur.</translation>
     </message>
     <message>
         <source>Copy as text...</source>

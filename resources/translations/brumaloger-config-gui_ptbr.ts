@@ -409,7 +409,7 @@ O texto digitado foi cortado.</translation>
     </message>
     <message>
         <source>Save all to preset</source>
-        <translation>Salvar tudo na predefinição</translation>
+        <translation>Salvar tudo como predefinição</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
@@ -417,7 +417,7 @@ O texto digitado foi cortado.</translation>
     </message>
     <message>
         <source>Load from preset</source>
-        <translation>Carregar da predefinição</translation>
+        <translation>Carregar predefinição</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
@@ -771,7 +771,7 @@ Se o problema persistir, selecione &lt;b&gt;Desativar leitura/gravação rápida
     </message>
     <message>
         <source>Save to preset</source>
-        <translation>Salvar na predefinição</translation>
+        <translation>Salvar como predefinição</translation>
     </message>
     <message>
         <source>Load preset</source>
