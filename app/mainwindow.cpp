@@ -202,6 +202,8 @@ void MainWindow::showEvent(QShowEvent* event)
     shownBefore = true;
     plClearDeviceInfo();
     plDisableControls(true);
+    if (settingsDialog->savedWindowSize().isEmpty())
+        plMakeRoom();
     updateChecker->check();
 }
 

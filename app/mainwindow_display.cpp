@@ -25,14 +25,14 @@ void MainWindow::plSettingsAccepted()
     if (settingsDialog->timeEnabled())
         plFetchTime();
     plUpdateTimeZoneLabel();
-    if (isVisible())
-        plMakeRoom();
 }
 
-// The form's own smallest size is for small fonts, and large ones would be cut. A size that the operator
-// chose before stays.
+// The form's own smallest size is for small fonts and empty panels; larger fonts and a device's values would
+// be cut. A size that the operator chose before stays as long as there is room in it.
 void MainWindow::plMakeRoom()
 {
+    if (!isVisible() || isMaximized() || isFullScreen())
+        return;
     // The panels' new sizes are known by them.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     resize(size().expandedTo(minimumSizeHint().boundedTo(screen()->availableSize())));
@@ -105,6 +105,7 @@ void MainWindow::plUpdateTimeZoneLabel()
     if (found)
         ui->labelTimeZone->setText(match.name);
     plShowTimeZone(found);
+    plMakeRoom(); // whatever fills the panels comes here in the end
 }
 
 void MainWindow::plSetTimeZone(const QString& name)

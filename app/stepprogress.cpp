@@ -2,6 +2,8 @@
 
 #include "app/stepprogress.h"
 
+#include "dialogs/titleroom.h"
+
 #include <QCoreApplication>
 
 namespace {
@@ -15,6 +17,7 @@ StepProgress::StepProgress(const QString& label, const QString& title, QWidget* 
 {
     dialog.setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     dialog.setWindowTitle(title);
+    makeRoomForTitle(&dialog);
     dialog.setWindowModality(Qt::WindowModal);
     dialog.show();
 }

@@ -1,6 +1,7 @@
 // Advanced options: the picker of an automatic date and time, in figures on the device's clock.
 
 #include "dialogs/advancedoptionsdialog.h"
+#include "dialogs/titleroom.h"
 
 #include <QCalendarWidget>
 #include <QDateTimeEdit>
@@ -84,6 +85,7 @@ bool AdvancedOptionsDialog::plPickDateTime(QDateTime* date, const QString& title
     setUp(picker);
     keepInStep(picker.calendar, picker.editor);
     showDate(picker, *date);
+    makeRoomForTitle(&dialog);
     connect(picker.now, &QPushButton::clicked, &dialog,
             [this, &picker] { showDate(picker, QDateTime::currentDateTime().addSecs(timeZoneOffset)); });
     connect(picker.ok, &QPushButton::clicked, &dialog, &QDialog::accept);

@@ -54,6 +54,13 @@ brumalogger_add_test(tst_mainwindow_updatecheck SOURCES tst_mainwindow_updateche
   LINK brumalogger_proceduretests brumalogger_update brumalogger_webtests
   MOCK WEB_SERVER
 )
+brumalogger_add_test(tst_window_languages
+  SOURCES timerig.cpp timerig.h tst_window_languages.cpp windowinspector.cpp windowinspector.h
+  LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time
+  MOCK NETWORK X11
+)
+add_dependencies(tst_window_languages brumalogger_translations)
+target_compile_definitions(tst_window_languages PRIVATE TRANSLATIONS="${PROJECT_BINARY_DIR}/translations")
 target_compile_definitions(tst_mainwindow_about PRIVATE PROGRAM_VERSION="${PROJECT_VERSION}")
 target_compile_definitions(tst_mainwindow_layout PRIVATE FORM_FILE="${PROJECT_SOURCE_DIR}/app/mainwindow.ui")
 
