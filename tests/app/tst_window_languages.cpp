@@ -17,6 +17,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScopedPointer>
 #include <QStatusBar>
@@ -219,13 +220,16 @@ void TestWindowLanguages::lockedLogger()
     const QScopedPointer<Place> place(newPlace());
     WindowInspector& inspector = place->inspector;
     const QString title = PasswordDialog::tr("Password protected device");
-    inspector.at(title, [&inspector](QDialog* dialog) {
+    QString sender;
+    inspector.at(title, [&](QDialog* dialog) {
         press(dialog, "buttonToggleInfo");
         QCoreApplication::processEvents();
+        sender = child<QLabel>(*dialog, "labelSender")->text();
         inspector.inspect(*dialog);
         dialog->reject();
     });
     place->rig.plugAndConnect(::lockedLogger());
+    QCOMPARE(sender, QStringLiteral("Northern Pharma"));
     QCOMPARE(missing({title, title}, inspector.titles()), QStringList());
     QVERIFY2(inspector.problems().isEmpty(), qPrintable(inspector.problems()));
 }

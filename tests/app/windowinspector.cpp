@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QScreen>
+#include <QWindow>
 
 namespace {
 
@@ -77,16 +78,24 @@ bool WindowInspector::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
+// A dialog that asks the device first is on the screen only when it has its values. Boxes and the progress
+// dialog may be gone by then, and have all their texts before.
 void WindowInspector::visit(QDialog* dialog)
 {
+    const bool isProgress = qobject_cast<QProgressDialog*>(dialog);
+    auto* box = qobject_cast<QMessageBox*>(dialog);
     if (!dialog->isVisible())
         return;
+    if (!box && !isProgress && !dialog->windowHandle()->isExposed()) {
+        atNextChance(dialog, [this, dialog] { visit(dialog); });
+        return;
+    }
     inspect(*dialog);
-    if (qobject_cast<QProgressDialog*>(dialog))
+    if (isProgress)
         return;
     if (actions.contains(dialog->windowTitle()))
         actions.value(dialog->windowTitle())(dialog);
-    else if (auto* box = qobject_cast<QMessageBox*>(dialog))
+    else if (box)
         agree(box);
     else
         dialog->reject();
