@@ -78,7 +78,7 @@ QString textOf(const QWidget& widget)
     if (const auto* bar = qobject_cast<const QStatusBar*>(&widget))
         return bar->currentMessage();
     for (const char* property : {"text", "title"}) {
-        const QString text = widget.property(property).toString();
+        QString text = widget.property(property).toString();
         if (!text.isEmpty())
             return text;
     }
@@ -159,16 +159,14 @@ void checkPlaces(const QWidget& whole, QStringList* problems)
     }
 }
 
-void checkTree(const QWidget& whole, QStringList* problems)
+void checkWidget(const QWidget& widget, QStringList* problems)
 {
-    checkText(whole, problems);
-    checkPlaces(whole, problems);
-    if (const auto* table = qobject_cast<const QTableView*>(&whole))
+    checkText(widget, problems);
+    checkPlaces(widget, problems);
+    if (const auto* table = qobject_cast<const QTableView*>(&widget))
         checkCells(*table, problems);
-    if (const auto* page = qobject_cast<const QTextEdit*>(&whole))
+    if (const auto* page = qobject_cast<const QTextEdit*>(&widget))
         checkPage(*page, problems);
-    for (const QWidget* part : parts(whole))
-        checkTree(*part, problems);
 }
 
 } // namespace
@@ -183,6 +181,11 @@ QStringList roomProblems(const QWidget& window)
                         .arg(window.windowTitle())
                         .arg(title)
                         .arg(window.width());
-    checkTree(window, &problems);
+    QList<const QWidget*> left{&window};
+    while (!left.isEmpty()) {
+        const QWidget* widget = left.takeFirst();
+        checkWidget(*widget, &problems);
+        left << parts(*widget);
+    }
     return problems;
 }
