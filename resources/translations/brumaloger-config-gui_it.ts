@@ -641,31 +641,31 @@ Continuare?</translation>
     </message>
     <message>
         <source>2°C to 8°C</source>
-        <translation>da 2°C a 8°C</translation>
+        <translation>da 2 °C a 8 °C</translation>
     </message>
     <message>
         <source>-10°C to -1°C</source>
-        <translation>da -10°C a -1°C</translation>
+        <translation>da -10 °C a -1 °C</translation>
     </message>
     <message>
         <source>-8°C to -2°C</source>
-        <translation>da -8°C a -2°C</translation>
+        <translation>da -8 °C a -2 °C</translation>
     </message>
     <message>
         <source>2°C to 25°C</source>
-        <translation>da 2°C a 25°C</translation>
+        <translation>da 2 °C a 25 °C</translation>
     </message>
     <message>
         <source>15°C to 25°C</source>
-        <translation>da 15°C a 25°C</translation>
+        <translation>da 15 °C a 25 °C</translation>
     </message>
     <message>
         <source>15°C to 30°C</source>
-        <translation>da 15°C a 30°C</translation>
+        <translation>da 15 °C a 30 °C</translation>
     </message>
     <message>
         <source>-30°C to -15°C</source>
-        <translation>da -30°C a -15°C</translation>
+        <translation>da -30 °C a -15 °C</translation>
     </message>
     <message>
         <source>Custom</source>
