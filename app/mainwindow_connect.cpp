@@ -54,6 +54,8 @@ void MainWindow::plCloseConnection()
         plAsk(tr("Disconnecting"), tr("There are modifications that were not written to the device.\n"
                                       "Do you really wish to disconnect?")) == QMessageBox::No)
         return;
+    if (!device->lIsConnected()) // found invalid, and left, while the question was open
+        return;
     device->lDisconnect();
     plShowConnectButton();
     ui->statusBar->showMessage(tr("Disconnected from %1").arg(device->lPortName()));

@@ -95,6 +95,13 @@ void WaitingRig::tellTimeUntil(const QString& status)
     told = rig.comesTo(status);
 }
 
+DoubtfulRig::DoubtfulRig(const LoggerModel& model)
+    : WaitingRig(Q_INT64_C(3) * 86400 * 1000)
+{
+    rig.plugAndConnect(model);
+    rig.takeStatusLog();
+}
+
 SynchronisedRig::SynchronisedRig(const LoggerModel& model, qint64 ahead)
     : rig(timeSettings())
 {

@@ -19,6 +19,8 @@ const QString failedServer = QStringLiteral("Unable to fetch date and time from 
                                             "Check your connections or try another server.");
 const QString failedPool = QStringLiteral("Unable to fetch date and time from server pool. "
                                           "Check your connections or try another server.");
+const QString foundInvalid = QStringLiteral("Invalid device detected.");
+const QString leftPort = QStringLiteral("Disconnected from ttyACM0");
 
 } // namespace TimeWords
 
@@ -68,6 +70,13 @@ struct WaitingRig
     Servers servers;
     TimeRig rig;
     bool told = false;
+};
+
+/// A logger is connected, and the answer of the time server is still to come: it will tell a time three days
+/// ahead, which no Single-use logger's clock shows.
+struct DoubtfulRig : WaitingRig
+{
+    explicit DoubtfulRig(const LoggerModel& model);
 };
 
 /// A window with a reference time, @p ahead milliseconds ahead, and a connected logger.

@@ -29,19 +29,7 @@ LoggerModel loggerAhead(LoggerModel model, int seconds)
     return model;
 }
 
-const QStringList found{"Invalid device detected.", "Disconnected from ttyACM0"};
-
-/// A logger is connected, and the answer of the time server is still to come: it will tell a time three days
-/// ahead, which no Single-use logger's clock shows.
-struct DoubtfulRig : WaitingRig
-{
-    explicit DoubtfulRig(const LoggerModel& model)
-        : WaitingRig(Q_INT64_C(3) * 86400 * 1000)
-    {
-        rig.plugAndConnect(model);
-        rig.takeStatusLog();
-    }
-};
+const QStringList found{foundInvalid, leftPort};
 
 } // namespace
 

@@ -14,8 +14,6 @@ using namespace WindowWords;
 namespace {
 
 constexpr qint64 threeDays = Q_INT64_C(3) * 86400; // seconds
-const QString invalid = QStringLiteral("Invalid device detected.");
-const QString gone = QStringLiteral("Disconnected from ttyACM0");
 
 /// A connected logger that is about to be judged: at the end of a read, or because the reference time has
 /// come.
@@ -104,10 +102,10 @@ void TestMainWindowValidityInterruptions::pressesOverTheBox()
         statusThen << rig.status();
     });
     expectInvalidDevice(rig.robot);
-    judged.judge(gone);
-    QCOMPARE(statusThen, QStringList(invalid));
+    judged.judge(leftPort);
+    QCOMPARE(statusThen, QStringList(foundInvalid));
     QCOMPARE(rig.wire(), judged.wire());
-    QCOMPARE(rig.takeStatusLog(), judged.statuses() + QStringList({invalid, gone}));
+    QCOMPARE(rig.takeStatusLog(), judged.statuses() + QStringList({foundInvalid, leftPort}));
     QCOMPARE(differences(rig, disconnected()), QString());
 }
 
