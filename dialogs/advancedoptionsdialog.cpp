@@ -9,6 +9,7 @@
 #include <QLayout>
 #include <QMessageBox>
 #include <QScopedValueRollback>
+#include <QShowEvent>
 #include <QVector>
 
 namespace {
@@ -121,10 +122,13 @@ void AdvancedOptionsDialog::lStopDate(bool* enabled, QDateTime* date) const
 }
 
 // The base class puts the dialog into the middle of its parent: at first for the warning of a password that
-// is too long, which goes by the dialog's place, and once more when the dialog has its new size.
+// is too long, which goes by the dialog's place, and once more when the dialog has its new size. Coming back
+// from being minimised is no opening: what was edited stays.
 void AdvancedOptionsDialog::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
+    if (event->spontaneous())
+        return;
     plFillControls();
     plFitSize();
     QDialog::showEvent(event);

@@ -76,9 +76,10 @@ void PasswordDialog::lSetDevice(const QSharedPointer<BrumaloggerInterface>& devi
 }
 
 // The base class puts the dialog into the middle of its parent, so it has to have its new size by then.
+// Coming back from being minimised is no opening: what was typed stays, and nothing is asked.
 void PasswordDialog::showEvent(QShowEvent* event)
 {
-    if (!exchanging) {
+    if (!event->spontaneous()) {
         plRefresh();
         layout()->activate();
     }

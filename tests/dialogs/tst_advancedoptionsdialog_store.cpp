@@ -3,6 +3,7 @@
 #include "advanceddesk.h"
 
 #include "support/localzone.h"
+#include "support/minimised.h"
 #include "support/testclock.h"
 
 #include <QDialogButtonBox>
@@ -52,6 +53,7 @@ private slots:
     void cancelKeepsTheValues();
     void acceptTakesTheValues();
     void cancelKeepsTheDateFlags();
+    void editsOutliveMinimising();
     void showingIsLoggedFirst();
     void showingRefreshesTheControls();
     void showingFollowsMultiuse();
@@ -220,6 +222,19 @@ void TestAdvancedOptionsDialogStore::cancelKeepsTheDateFlags()
 }
 
 // Before the warning of a password that is too long.
+void TestAdvancedOptionsDialogStore::editsOutliveMinimising()
+{
+    AdvancedDesk desk;
+    editEverything(desk);
+    desk.find<QLabel>("labelChangesEffect")->show();
+    bringBack(desk.dialog);
+    QVERIFY(!desk.isChecked("checkStartButton"));
+    QVERIFY(desk.isChecked("checkConfigPassw"));
+    QVERIFY(desk.isChecked("checkLockButton"));
+    QCOMPARE(desk.passwordField()->text(), QStringLiteral("new"));
+    QVERIFY(desk.find<QLabel>("labelChangesEffect")->isVisible());
+}
+
 void TestAdvancedOptionsDialogStore::showingIsLoggedFirst()
 {
     AdvancedDesk desk;

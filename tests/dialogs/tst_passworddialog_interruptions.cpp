@@ -2,8 +2,9 @@
 
 #include "passworddesk.h"
 
+#include "support/minimised.h"
+
 #include <QLineEdit>
-#include <QShowEvent>
 #include <QTest>
 
 namespace {
@@ -271,16 +272,12 @@ void TestPasswordDialogInterruptions::togglingWhileTrying()
     QCOMPARE(desk.robot.problems(), QString());
 }
 
-// A window manager that brings a minimised dialog back is one more showing, but not in the middle of a try.
 void TestPasswordDialogInterruptions::comingBackWhileTrying()
 {
     PasswordDesk desk;
     desk.open();
     desk.takeWire();
-    desk.atCommand("?", [&] {
-        QShowEvent event;
-        QCoreApplication::sendEvent(&desk.dialog, &event);
-    });
+    desk.atCommand("?", [&] { bringBack(desk.dialog); });
     desk.tryPassword(rightPassword());
     QVERIFY(desk.dialog.lUnlocked());
     QCOMPARE(desk.takeWire(), QList<QByteArray>({"?Secret"}));

@@ -2,6 +2,8 @@
 
 #include "passworddesk.h"
 
+#include "support/minimised.h"
+
 #include <QLineEdit>
 #include <QTest>
 
@@ -45,6 +47,7 @@ private slots:
     void textsAsTheyCame_data();
     void textsAsTheyCame();
     void asksAgainAtEveryShowing();
+    void minimisingIsNoNewShowing();
     void forgetsWhatTheOperatorLeft();
     void forgetsTheUnlocking();
     void silence_data() { addCommands(); }
@@ -147,6 +150,19 @@ void TestPasswordDialogShowing::asksAgainAtEveryShowing()
     QCOMPARE(desk.takeWire(), showingCommands());
     QCOMPARE(desk.labels().mid(0, 3), QStringList({"A", "B", "C"}));
     QCOMPARE(desk.dialog.lState(), 16);
+}
+
+void TestPasswordDialogShowing::minimisingIsNoNewShowing()
+{
+    PasswordDesk desk;
+    desk.open();
+    desk.takeWire();
+    desk.find<QLineEdit>("linePassw")->setText(QStringLiteral("half a pass"));
+    desk.pressToggle();
+    bringBack(desk.dialog);
+    QCOMPARE(desk.text("linePassw"), QStringLiteral("half a pass"));
+    QVERIFY(desk.isShowingInfo());
+    QCOMPARE(desk.takeWire(), QList<QByteArray>());
 }
 
 void TestPasswordDialogShowing::forgetsWhatTheOperatorLeft()
