@@ -158,7 +158,8 @@ void PasswordDialog::plClose(int result)
     QDialog::done(result);
 }
 
-// Without an answer both warnings are shown, the second one when the dialog has closed.
+// Without an answer both warnings are shown, the second one when the dialog has closed; not so if it was
+// closed from outside together with the first one.
 void PasswordDialog::plUnlock()
 {
     unlocked = false;

@@ -30,6 +30,8 @@ private slots:
     void duringWrite();
     void behindTheAnswerOfTheLock();
     void overTheUnlockDialog();
+    void overABoxOfTheUnlockDialog_data();
+    void overABoxOfTheUnlockDialog();
     void overTheOptions();
     void overTheOptionsBeforeTheyAreThere();
 };
@@ -101,6 +103,41 @@ void TestMainWindowExtendedClosing::overTheUnlockDialog()
     QCOMPARE(hand.showings(), 1);
     QCOMPARE(closedWindowRemains(rig), QString());
     QCOMPARE(rig.wire(), firstOf(lockedConnectCommands(), firstTry - 1));
+}
+
+void TestMainWindowExtendedClosing::overABoxOfTheUnlockDialog_data()
+{
+    QTest::addColumn<bool>("silent");
+    QTest::addColumn<int>("box");
+    QTest::newRow("no answer") << true << 1;
+    QTest::newRow("no answer, and so the wrong password") << true << 2;
+    QTest::newRow("wrong password") << false << 1;
+}
+
+// Nothing more is said over a window that is gone.
+void TestMainWindowExtendedClosing::overABoxOfTheUnlockDialog()
+{
+    QFETCH(const bool, silent);
+    QFETCH(const int, box);
+    ProcedureRig rig;
+    rig.plug(lockedLogger());
+    if (silent)
+        rig.disturb("?", Fault::Kind::Silence);
+    const UnlockHand hand(rig, {QStringLiteral("wrong")});
+    if (silent)
+        rig.robot.expectWarning(QStringLiteral("Unlock device"),
+                                QStringLiteral("Failed while trying to unlock device."));
+    if (!silent || box == 2)
+        expectWrongPassword(rig.robot);
+    connect(&rig.robot, &DialogRobot::sBoxOpened, &rig.window, [&rig, box] {
+        if (rig.robot.boxes().size() == box)
+            rig.window.close();
+    });
+    rig.press("buttonConnect");
+    QCOMPARE(rig.robot.boxes().size(), box);
+    QVERIFY(!unlockDialog(rig)->lUnlocked());
+    QCOMPARE(closedWindowRemains(rig), QString());
+    QCOMPARE(rig.wire(), firstOf(lockedConnectCommands(), firstTry - 1) << "?wrong");
 }
 
 void TestMainWindowExtendedClosing::overTheOptions()
