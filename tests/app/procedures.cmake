@@ -12,7 +12,7 @@ add_library(brumalogger_proceduretests STATIC
 target_link_libraries(brumalogger_proceduretests PUBLIC brumalogger_testsupport)
 foreach(concern
     discovery connect
-    read readfailures readreplies
+    read readfailures readmoments readreplies
     write writefailures results
     start
     extendedread condition extendedfailures extendedclosing extendedunplug unlock options

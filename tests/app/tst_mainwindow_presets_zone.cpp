@@ -93,6 +93,7 @@ class TestMainWindowPresetsZone : public QObject
 private slots:
     void adopted_data();
     void adopted();
+    void readTakesTheMarkAway();
     void unknownIsTheDefault();
     void reportOfOlderLoggersSaysIt();
     void zoneOfTheDeviceIsNotInForceAnyMore_data();
@@ -129,6 +130,20 @@ void TestMainWindowPresetsZone::adopted()
     QCOMPARE(rig.text("lineInfo"), QStringLiteral("Batch 7"));
     // All else of this preset is on the logger.
     QCOMPARE(differences(rig, idle(loaded, false)), QString());
+}
+
+// Not only at its end: from its first step on.
+void TestMainWindowPresetsZone::readTakesTheMarkAway()
+{
+    SynchronisedPresetRig synchronised(secureLogger());
+    PresetRig& rig = synchronised.rig;
+    rig.apply(presetOfZone(QStringLiteral("GMT+5:30")));
+    QList<bool> bold;
+    for (const char* command : {"i", "e"})
+        rig.atCommand(extendedReadCommands().indexOf(command) + 1, [&] { bold << isBold(rig); });
+    rig.press("buttonRead");
+    QCOMPARE(bold, QList<bool>({true, false}));
+    QCOMPARE(differences(rig, idle(QStringLiteral("Read successful"), false)), QString());
 }
 
 void TestMainWindowPresetsZone::unknownIsTheDefault()

@@ -7,6 +7,7 @@
 #include "timerig.h"
 
 #include <QDateTime>
+#include <QProgressDialog>
 #include <QTest>
 
 using namespace TimeWords;
@@ -43,6 +44,7 @@ private slots:
     void cancelBeforeItPreventsIt();
     void cancelIsLookedAtBehindIt_data() { addRepairRows({"u", "Sz00000000"}); }
     void cancelIsLookedAtBehindIt();
+    void barMovesBehindIt();
     void windowIsClosed_data() { addRepairRows({"u", "Sz00000000"}); }
     void windowIsClosed();
     void timeComes_data() { addCommandRows(withRepair(extendedConnectCommands()), {8, 9}); }
@@ -76,6 +78,18 @@ void TestMainWindowRepair::cancelIsLookedAtBehindIt()
     QCOMPARE(withoutSeconds(rig.wire()), rig.commandsOfReadEndingAt(nextStep));
     QCOMPARE(panels(rig), emptyPanels());
     QCOMPARE(differences(rig, rig.lostState()), QString());
+}
+
+void TestMainWindowRepair::barMovesBehindIt()
+{
+    RepairRig rig(false);
+    const QList<QByteArray> commands = withRepair(extendedReadCommands());
+    QList<int> values;
+    for (const char* command : {"g", "u", "Sz00000000", "Gt"})
+        rig.atCommand(commands.indexOf(command) + 1, [&] { values << rig.progressDialog()->value(); });
+    rig.run();
+    QCOMPARE(values, QList<int>({2, 2, 2, 3}));
+    QCOMPARE(differences(rig, rig.readState()), QString());
 }
 
 // Nothing follows the command under way. A read of its own has cleared the texts by then.

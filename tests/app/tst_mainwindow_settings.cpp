@@ -142,6 +142,8 @@ void TestMainWindowSettings::fastModeIsTheLinks()
     const qint64 leastTime = qint64(waitsOfAConnect) * (later ? slowWait : fastWait);
     const qint64 time = rig.connectTime();
     QVERIFY2(time >= leastTime && time < leastTime * 3 / 2, qPrintable(QString::number(time)));
+    rig.press("buttonWrite");
+    QCOMPARE(rig.wire(), connectCommands() + writeCommandsOfBasicLogger());
 }
 
 void TestMainWindowSettings::defaultPresetEnablesItsButton()

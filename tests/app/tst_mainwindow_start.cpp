@@ -1,6 +1,7 @@
 // Starting the logger: what is asked, what the logger must allow, and the end of the connection.
 
 #include "procedurerig.h"
+#include "progresswatch.h"
 #include "windowstate.h"
 #include "windowwords.h"
 
@@ -39,6 +40,7 @@ private slots:
     void starts_data();
     void starts();
     void startsByKeys();
+    void leavesTheControlsAlone();
     void staysAfterNo();
     void asksTwiceWithChanges_data();
     void asksTwiceWithChanges();
@@ -84,6 +86,23 @@ void TestMainWindowStart::startsByKeys()
     rig.activate();
     rig.pressKeys(Qt::Key_A);
     QCOMPARE(rig.wire(), QList<QByteArray>({"a"}));
+    QCOMPARE(differences(rig, disconnected()), QString());
+}
+
+void TestMainWindowStart::leavesTheControlsAlone()
+{
+    ProcedureRig rig;
+    rig.plugAndConnect(extendedLogger());
+    const ProgressWatch watch;
+    QList<QByteArray> withControls;
+    connect(rig.logger, &SimulatedPort::sCommandReceived, this, [&](int, const QByteArray& command) {
+        if (rig.isEnabled("buttonRead") && rig.controlsMixture().isEmpty())
+            withControls << command;
+    });
+    expectStartConfirm(rig.robot, Yes);
+    rig.press("buttonStart");
+    QCOMPARE(withControls, QList<QByteArray>({"Go", "a"}));
+    QVERIFY(watch.dialogs().isEmpty());
     QCOMPARE(differences(rig, disconnected()), QString());
 }
 

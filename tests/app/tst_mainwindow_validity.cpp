@@ -317,6 +317,7 @@ void TestMainWindowValidity::noDeviceIsNotJudged()
     waiting.tellTimeUntil(fetchedServer);
     QVERIFY(waiting.told);
     QCOMPARE(rig.wire(), QList<QByteArray>());
+    QCOMPARE(rig.zone(), QString());
     WindowState after = disconnected();
     after.status = fetchedServer;
     QCOMPARE(differences(rig, after), QString());
