@@ -98,8 +98,13 @@ void TestMainWindowExtendedClosing::overTheUnlockDialog()
     ProcedureRig rig;
     rig.plug(lockedLogger());
     const UnlockHand hand(rig, {});
-    connect(&hand, &UnlockHand::sShown, &rig.window, [&rig] { rig.window.close(); });
+    bool dialogStays = true;
+    connect(&hand, &UnlockHand::sShown, &rig.window, [&] {
+        rig.window.close();
+        dialogStays = unlockDialog(rig)->isVisible();
+    });
     rig.press("buttonConnect");
+    QVERIFY(!dialogStays);
     QCOMPARE(hand.showings(), 1);
     QCOMPARE(closedWindowRemains(rig), QString());
     QCOMPARE(rig.wire(), firstOf(lockedConnectCommands(), firstTry - 1));
@@ -129,11 +134,15 @@ void TestMainWindowExtendedClosing::overABoxOfTheUnlockDialog()
                                 QStringLiteral("Failed while trying to unlock device."));
     if (!silent || box == 2)
         expectWrongPassword(rig.robot);
-    connect(&rig.robot, &DialogRobot::sBoxOpened, &rig.window, [&rig, box] {
-        if (rig.robot.boxes().size() == box)
-            rig.window.close();
+    bool dialogStays = true;
+    connect(&rig.robot, &DialogRobot::sBoxOpened, &rig.window, [&] {
+        if (rig.robot.boxes().size() != box)
+            return;
+        rig.window.close();
+        dialogStays = unlockDialog(rig)->isVisible();
     });
     rig.press("buttonConnect");
+    QVERIFY(!dialogStays);
     QCOMPARE(rig.robot.boxes().size(), box);
     QVERIFY(!unlockDialog(rig)->lUnlocked());
     QCOMPARE(closedWindowRemains(rig), QString());

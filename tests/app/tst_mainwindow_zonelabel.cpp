@@ -44,6 +44,7 @@ private slots:
     void editorNeedsADeviceAndReferenceTime();
     void answerDuringAReadTouchesNoControls();
     void answerWithoutADevice();
+    void answerBehindADevice();
     void zoneOnTheDeviceWins();
     void zoneOnTheDeviceNeedsNoTimeConfiguration_data();
     void zoneOnTheDeviceNeedsNoTimeConfiguration();
@@ -156,6 +157,21 @@ void TestMainWindowZoneLabel::answerWithoutADevice()
     TimeRig rig(timeSettings());
     QVERIFY(rig.comesTo(fetchedServer));
     QCOMPARE(rig.zone(), QString());
+    QVERIFY(!rig.controlsEnabled());
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+// The clock of the device that was left still stands where it stood.
+void TestMainWindowZoneLabel::answerBehindADevice()
+{
+    WaitingRig waiting;
+    TimeRig& rig = waiting.rig;
+    rig.plugAndConnect(loggerAhead(7200));
+    rig.press("buttonConnect");
+    waiting.tellTimeUntil(fetchedServer);
+    QVERIFY(waiting.told);
+    QCOMPARE(rig.zone(), QString());
+    QCOMPARE(rig.wire(), QList<QByteArray>());
     QVERIFY(!rig.controlsEnabled());
     QCOMPARE(rig.robot.problems(), QString());
 }
