@@ -170,7 +170,7 @@ void PasswordDialog::plUnlock()
     }
     if (!answered) {
         plWarn(tr("Failed while trying to unlock device."));
-        if (!isVisible()) // rejected meanwhile, with the window
+        if (!isVisible())
             return;
         QDialog::done(QDialog::Accepted);
     }
