@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <zlib.h>
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
 
@@ -16,6 +17,7 @@ namespace {
 
 constexpr int growth = 64;
 constexpr int mostPlain = 1 << 16;
+constexpr int lengthSize = 4;
 constexpr int allFlags = 8;
 
 /// The data that a cipher text carries, whatever its integrity field says.
@@ -26,14 +28,42 @@ QByteArray dataOf(quint64 key, const QByteArray& cipher)
     return ReferenceCipher::unchained(key, cipher.mid(2)).mid(1 + fieldSize);
 }
 
-bool isTooLarge(quint64 key, const QByteArray& cipher)
+/// The content of the stream at the beginning of @p stream, empty if it is broken.
+Reading uncompressed(const QByteArray& stream, QByteArray* plain)
 {
-    const QByteArray data = dataOf(key, cipher);
-    return cipher.size() > 1 && cipher.at(1) & ReferenceCipher::Compressed &&
-           (data.size() < 4 || qFromBigEndian<quint32>(data.constData()) > mostPlain);
+    uLongf size = mostPlain;
+    plain->resize(mostPlain);
+    const int result =
+        uncompress(reinterpret_cast<Bytef*>(plain->data()), &size,
+                   reinterpret_cast<const Bytef*>(stream.constData()), static_cast<uLong>(stream.size()));
+    plain->truncate(result == Z_OK ? static_cast<int>(size) : 0);
+    return result == Z_BUF_ERROR ? Reading::TooLarge : Reading::Plain;
+}
+
+QByteArray plainOf(quint64 key, const QByteArray& cipher)
+{
+    QByteArray plain;
+    return readingOf(key, cipher, &plain) == Reading::Plain ? plain : QByteArray();
 }
 
 } // namespace
+
+Reading readingOf(quint64 key, const QByteArray& cipher, QByteArray* plain)
+{
+    plain->clear();
+    QByteArray data;
+    if (!ReferenceCipher::open(key, cipher, &data))
+        return Reading::Refused;
+    if (!(cipher.at(1) & ReferenceCipher::Compressed)) {
+        *plain = data;
+        return Reading::Plain;
+    }
+    if (data.size() <= lengthSize)
+        return Reading::Plain;
+    if (qFromBigEndian<quint32>(data.constData()) > mostPlain)
+        return Reading::TooLarge;
+    return uncompressed(data.mid(lengthSize), plain);
+}
 
 QByteArray mutated(const QByteArray& data)
 {
@@ -44,14 +74,6 @@ QByteArray mutated(const QByteArray& data)
                          static_cast<std::size_t>(data.size()), static_cast<std::size_t>(result.size()));
     result.truncate(static_cast<int>(size));
     return result;
-}
-
-QByteArray plainOf(quint64 key, const QByteArray& cipher)
-{
-    QByteArray plain;
-    if (isTooLarge(key, cipher) || !ReferenceCipher::decipher(key, cipher, &plain))
-        plain.clear();
-    return plain;
 }
 
 QByteArray mutatedCipher(quint64 key, const QByteArray& cipher, QRandomGenerator* random)

@@ -13,5 +13,13 @@ QByteArray mutated(const QByteArray& data);
 /// A cipher text with changed data: plain or compressed data is changed, or the compressed stream itself.
 QByteArray mutatedCipher(quint64 key, const QByteArray& cipher, QRandomGenerator* random);
 
-/// The plain data of a cipher text, empty if there is none or if it is too large to be worth the time.
-QByteArray plainOf(quint64 key, const QByteArray& cipher);
+/// What the reference decoder makes of a cipher text.
+enum class Reading {
+    Refused, ///< too short, of another version, or its integrity field is wrong
+    Plain,
+    TooLarge ///< not refused, but compressed, and its plain data is not worth the time
+};
+
+/// Gives the plain data, empty where a compressed stream is broken. The length that is told in front of a
+/// stream is no more than a hint.
+Reading readingOf(quint64 key, const QByteArray& cipher, QByteArray* plain);

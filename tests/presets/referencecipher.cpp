@@ -121,17 +121,23 @@ QByteArray ReferenceCipher::encipher(quint64 key, const QByteArray& plain, int f
     return wrap(key, flags & Compressed ? compress(plain) : plain, flags, random);
 }
 
-bool ReferenceCipher::decipher(quint64 key, const QByteArray& cipher, QByteArray* plain)
+bool ReferenceCipher::open(quint64 key, const QByteArray& cipher, QByteArray* data)
 {
     if (cipher.size() < 3 || cipher.at(0) != '\x03')
         return false;
     const int flags = static_cast<uchar>(cipher.at(1));
     const QByteArray payload = unchained(key, cipher.mid(2));
     const int fieldSize = flags & Checksum ? 2 : flags & Hash ? 20 : 0;
-    const QByteArray data = payload.mid(1 + fieldSize);
-    if (payload.mid(1, fieldSize) != fieldOf(data, flags))
+    *data = payload.mid(1 + fieldSize);
+    return payload.mid(1, fieldSize) == fieldOf(*data, flags);
+}
+
+bool ReferenceCipher::decipher(quint64 key, const QByteArray& cipher, QByteArray* plain)
+{
+    QByteArray data;
+    if (!open(key, cipher, &data))
         return false;
-    if (flags & Compressed)
+    if (cipher.at(1) & Compressed)
         return uncompress(data, plain);
     *plain = data;
     return true;

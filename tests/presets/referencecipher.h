@@ -29,6 +29,8 @@ QByteArray unchained(quint64 key, const QByteArray& payload);
 QByteArray wrap(quint64 key, const QByteArray& data, int flags, char random);
 /// A cipher text of @p plain, compressed and protected as @p flags say.
 QByteArray encipher(quint64 key, const QByteArray& plain, int flags, char random);
+/// The data of a cipher text, compressed as it may be. False if the version or the integrity field is wrong.
+bool open(quint64 key, const QByteArray& cipher, QByteArray* data);
 /// False if anything in @p cipher is not as it should be.
 bool decipher(quint64 key, const QByteArray& cipher, QByteArray* plain);
 
