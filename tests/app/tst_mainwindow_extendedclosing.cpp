@@ -167,7 +167,8 @@ void TestMainWindowExtendedClosing::overTheOptionsBeforeTheyAreThere()
     options(rig)->lSetPassword(QString(31, QLatin1Char('x')));
     rig.robot.expectWarning(
         QStringLiteral("Password too long"),
-        QStringLiteral("Password may not be larger than 30 characters.\nYour input was truncated."));
+        QStringLiteral("Password may not be larger than 30 characters.\nYour input was truncated."),
+        "AdvancedOptionsDialog");
     connect(&rig.robot, &DialogRobot::sBoxOpened, &rig.window, [&rig] { rig.window.close(); });
     rig.press("buttonAdvanced");
     QCOMPARE(closedWindowRemains(rig), QString());

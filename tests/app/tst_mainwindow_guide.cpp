@@ -139,7 +139,8 @@ void TestMainWindowGuide::languageChosenNowIsForTheNextStart()
     dialog->open();
     rig.robot.expectInformation(
         QStringLiteral("Information"),
-        QStringLiteral("Please click OK and restart the application for these settings to take effect."));
+        QStringLiteral("Please click OK and restart the application for these settings to take effect."),
+        "SettingsDialog");
     auto* combo = child<QComboBox>(*dialog, "comboLanguage");
     combo->setCurrentIndex(combo->findData(QStringLiteral("en_us")));
     dialog->accept();

@@ -72,13 +72,14 @@ void WindowWords::expectConnectFailed(DialogRobot& robot)
 
 void WindowWords::expectWrongPassword(DialogRobot& robot)
 {
-    robot.expectWarning(QStringLiteral("Unlock device"), QStringLiteral("Incorrect password."));
+    robot.expectWarning(QStringLiteral("Unlock device"), QStringLiteral("Incorrect password."),
+                        "PasswordDialog");
 }
 
 void WindowWords::expectNoAnswerToPassword(DialogRobot& robot)
 {
     robot.expectWarning(QStringLiteral("Unlock device"),
-                        QStringLiteral("Failed while trying to unlock device."));
+                        QStringLiteral("Failed while trying to unlock device."), "PasswordDialog");
     expectWrongPassword(robot);
 }
 
@@ -120,7 +121,8 @@ void WindowWords::expectResetCaution(DialogRobot& robot)
             "after the reports are generated, and <em>report generation</em> is password "
             "protected.<br>Please note that, in such configuration, forgetting the device's password "
             "will render it inoperative and non-resettable.<br>Please store its password "
-            "properly.</p>"));
+            "properly.</p>"),
+        "AdvancedOptionsDialog");
 }
 
 void WindowWords::expectPasswordDisclaimer(DialogRobot& robot)
@@ -132,7 +134,8 @@ void WindowWords::expectPasswordDisclaimer(DialogRobot& robot)
             "Configuration Tool</b>.<br>Ensure that the customer receiving the logger can install and "
             "use this software before shipping a locked <b>Brumalogger USB</b>.<br>Furthermore, note "
             "that it is <b>not possible</b> to recover or restore the password of a locked "
-            "device.</p>"));
+            "device.</p>"),
+        "AdvancedOptionsDialog");
 }
 
 void WindowWords::expectStartModified(DialogRobot& robot, QMessageBox::StandardButton answer)
@@ -159,6 +162,19 @@ void WindowWords::expectStartDisabled(DialogRobot& robot)
 void WindowWords::expectStartFailed(DialogRobot& robot)
 {
     robot.expectInformation(QStringLiteral("Error"), QStringLiteral("Failed to start the device"));
+}
+
+void WindowWords::expectAbout(DialogRobot& robot)
+{
+    robot.expectPlain(
+        QStringLiteral("About Brumalogger Configuration Tool"),
+        QStringLiteral(
+            "<img src=\":/logo_prw_nobg.png\" width=300><I></I><center>Brumalogger Configuration Tool v1.3.3"
+            "<p></p><p></p>Made by Polar Ridge Works: "
+            "<a href=\"http://www.polarridgeworks.example\">www.polarridgeworks.example</a>"
+            "<p>The USB driver is installed with wdi-simple, a tool of "
+            "<a href=\"https://github.com/pbatard/libwdi\">libwdi</a>.</p></center>"),
+        QMessageBox::Ok, QMessageBox::Ok);
 }
 
 void WindowWords::expectUpdate(DialogRobot& robot, const QString& version, QMessageBox::StandardButton answer)

@@ -39,6 +39,8 @@ void expectStartConfirm(DialogRobot& robot, QMessageBox::StandardButton answer);
 void expectStartDisabled(DialogRobot& robot);
 void expectStartFailed(DialogRobot& robot);
 
+void expectAbout(DialogRobot& robot);
+
 /// The prompts for version @p version; the answer is Ok or Cancel.
 void expectUpdate(DialogRobot& robot, const QString& version, QMessageBox::StandardButton answer);
 void expectMandatoryUpdate(DialogRobot& robot, const QString& version, QMessageBox::StandardButton answer);

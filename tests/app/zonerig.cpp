@@ -25,7 +25,8 @@ constexpr int hostsInPool = poolSize - 1; // the first of its rows is no host na
 void ZoneWords::expectConfirmation(DialogRobot& robot, QMessageBox::StandardButton answer)
 {
     robot.expectChoice(confirmation,
-                       QStringLiteral("Are you sure you want to change the device's time setting?"), answer);
+                       QStringLiteral("Are you sure you want to change the device's time setting?"), answer,
+                       "TimeZoneDialog");
 }
 
 void ZoneWords::expectDatesWarning(DialogRobot& robot)

@@ -45,7 +45,7 @@ public:
 
     QWidget window;
     AdvancedOptionsDialog dialog;
-    DialogRobot robot;
+    DialogRobot robot{"AdvancedOptionsDialog"};
 };
 
 /// Does @p action with a plain dialog that opens, once it is open. A dialog that is still open then is

@@ -61,7 +61,7 @@ public:
     UsbBench bench;
     SimulatedPort* logger;
     QSharedPointer<BrumaloggerInterface> link;
-    DialogRobot robot;
+    DialogRobot robot{"PasswordDialog"};
     QWidget window;
     PasswordDialog dialog;
 };

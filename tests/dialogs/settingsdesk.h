@@ -34,5 +34,5 @@ public:
     WorkFolder folder;
     QWidget window;
     SettingsDialog dialog;
-    DialogRobot robot;
+    DialogRobot robot{"SettingsDialog"};
 };

@@ -69,5 +69,5 @@ public:
     QSharedPointer<TimeManager> manager;
     QWidget window;
     TimeZoneDialog dialog;
-    DialogRobot robot;
+    DialogRobot robot{"TimeZoneDialog"};
 };

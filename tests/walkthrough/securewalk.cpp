@@ -52,7 +52,8 @@ bool SecureWalk::unlock()
 {
     auto* dialog = window.findChild<PasswordDialog*>();
     auto* line = dialog->findChild<QLineEdit*>();
-    robot.expectWarning(QStringLiteral("Unlock device"), QStringLiteral("Incorrect password."));
+    robot.expectWarning(QStringLiteral("Unlock device"), QStringLiteral("Incorrect password."),
+                        "PasswordDialog");
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, dialog, [&] {
         if (!isOnScreen(*dialog))
