@@ -51,19 +51,26 @@ void arrangeLook()
     atNextChance(qApp, [] {
         MainWindow* window = shownWindow();
         lookAtTheProgram()(window);
-        window->close();
+        if (window->isVisible())
+            window->close();
     });
 }
 Q_COREAPP_STARTUP_FUNCTION(arrangeLook)
 
-/// Starts the program, lets @p look see its window and closes it. Returns its warnings, a line each.
-QString run(const Look& look)
+/// Starts the program, lets @p look see its window and closes it. Returns the program's result.
+int resultOf(const Look& look)
 {
-    const LogLines log;
     lookAtTheProgram() = look;
     char name[] = "brumalogger-config-gui";
     char* arguments[] = {name, nullptr};
-    if (programMain(1, arguments) != 0)
+    return programMain(1, arguments);
+}
+
+/// The same, but returns the program's warnings, a line each.
+QString run(const Look& look)
+{
+    const LogLines log;
+    if (resultOf(look) != 0)
         return QStringLiteral("the program failed");
     QStringList warnings;
     for (const QString& line : log.all()) {
@@ -150,6 +157,7 @@ private slots:
     void missingTranslation();
     void damagedTranslation();
     void settingsOfferAllLanguages();
+    void returnsTheResultOfItsEventLoop();
 
 private:
     QTemporaryDir folder;
@@ -297,6 +305,18 @@ void TestMainLanguage::settingsOfferAllLanguages()
     });
     QCOMPARE(rows, QStringList({"de_de = Deutsch (DE)", "en_us = English (US)", "es_es = Español (ES)",
                                 "fr_fr = Français (FR)", "it_ch = Italiano (IT)", "pt_br = Português (BR)"}));
+}
+
+// The end of the last window ends the loop with 0, and the later word counts.
+void TestMainLanguage::returnsTheResultOfItsEventLoop()
+{
+    const WorkFolder place(settingsOf({}));
+    QCOMPARE(resultOf([](MainWindow* window) {
+                 window->close();
+                 QCoreApplication::exit(7);
+             }),
+             7);
+    QCOMPARE(resultOf([](MainWindow*) {}), 0);
 }
 
 QTEST_APPLESS_MAIN(TestMainLanguage)

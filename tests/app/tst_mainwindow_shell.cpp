@@ -37,6 +37,12 @@ LoggerModel firstRowsLogger()
     return model;
 }
 
+Settings withDefaultPreset()
+{
+    return quietSettingsWith({{QStringLiteral("preseten"), QStringLiteral("1")},
+                              {QStringLiteral("presetpath"), QStringLiteral("missing.bpr")}});
+}
+
 /// A control and whether it can be used.
 struct Usable
 {
@@ -226,7 +232,7 @@ void TestMainWindowShell::keysOfDisabledButtons_data()
 void TestMainWindowShell::keysOfDisabledButtons()
 {
     QFETCH(const Qt::Key, key);
-    ProcedureRig rig;
+    ProcedureRig rig(withDefaultPreset());
     rig.activate();
     rig.plug();
     rig.pressKeys(key);
@@ -237,7 +243,7 @@ void TestMainWindowShell::keysOfDisabledButtons()
 
 void TestMainWindowShell::keysOfEnabledButtons()
 {
-    ProcedureRig rig;
+    ProcedureRig rig(withDefaultPreset());
     rig.plug();
     const auto press = [&rig](Qt::Key key) {
         rig.activate();
@@ -251,7 +257,10 @@ void TestMainWindowShell::keysOfEnabledButtons()
     QCOMPARE(rig.status(), QStringLiteral("Read successful"));
     QCOMPARE(press(Qt::Key_W).value(0), QByteArray("St-0010000-0001000"));
     QCOMPARE(rig.status(), QStringLiteral("Write successful"));
+    rig.robot.expectWarning(QStringLiteral("Error"), // for there is no such file
+                            QStringLiteral("Unable to read from selected file. File is corrupted."));
     QCOMPARE(press(Qt::Key_P).size(), 0);
+    QCOMPARE(rig.robot.problems(), QString());
     WindowWords::expectStartConfirm(rig.robot, QMessageBox::No);
     QCOMPARE(press(Qt::Key_A).size(), 0);
     QCOMPARE(press(Qt::Key_K).size(), 0);

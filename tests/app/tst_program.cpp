@@ -16,10 +16,13 @@
 #include <QTest>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
 const QString italianName = QStringLiteral("brumaloger-config-gui_it.qm");
+const QString configurationName = QStringLiteral("blconf");
+const QByteArray unreadable = "Unable to read configuration file.";
 const QString title = QStringLiteral("Brumalogger Configuration Tool");
 
 /// Log lines without the one that shows when the configuration was written.
@@ -54,7 +57,12 @@ Settings configurationBesidesTheFont()
     return left;
 }
 
+/// Puts something in the place of a file.
+using FilePlace = std::function<bool(const QString& path)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(FilePlace)
 
 class TestProgram : public QObject
 {
@@ -73,7 +81,8 @@ private slots:
     void firstStartLeavesItsDefaults();
     void startsWithADamagedFile_data();
     void startsWithADamagedFile();
-    void startsWithAFolderForItsFile();
+    void startsWithoutAFileToOpen_data();
+    void startsWithoutAFileToOpen();
     void startsWithAForbiddenFile();
     void logsItsLanguage_data();
     void logsItsLanguage();
@@ -81,13 +90,14 @@ private slots:
 
 private:
     /// The lines of its log in which the program says that it is unable to do or doesn't support something.
-    QByteArray complaints(const QString& file);
+    QByteArray complaints(const QString& file, const QStringList& arguments = {});
     /// Goes to a new folder.
     void enter(const Settings& settings);
 
     QScopedPointer<Screen> screen;
     QScopedPointer<ProgramRig> program;
     QScopedPointer<WorkFolder> folder;
+    QSize lastSize; ///< of the window that complaints() saw
 };
 
 // Stays connected all the time: an X server without clients starts all over again.
@@ -114,9 +124,10 @@ void TestProgram::cleanup()
     folder.reset();
 }
 
-QByteArray TestProgram::complaints(const QString& file)
+QByteArray TestProgram::complaints(const QString& file, const QStringList& arguments)
 {
-    const xcb_window_t window = program->start({}, file);
+    const xcb_window_t window = program->start(arguments, file);
+    lastSize = window == 0 ? QSize() : screen->sizeOf(window);
     if (window == 0 || !program->end(window))
         return "the program did not run";
     QByteArrayList lines;
@@ -255,31 +266,50 @@ void TestProgram::startsWithADamagedFile()
     QCOMPARE(configurationBesidesTheFont(), defaults());
 }
 
-void TestProgram::startsWithAFolderForItsFile()
+void TestProgram::startsWithoutAFileToOpen_data()
 {
-    enter({});
-    QVERIFY(QDir().mkdir(QStringLiteral("blconf")));
-    const xcb_window_t window = program->start({});
-    QVERIFY(window != 0);
-    QCOMPARE(screen->sizeOf(window), QSize(850, 789));
-    QVERIFY(program->end(window));
-    QCOMPARE(program->process.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(program->process.exitCode(), 0);
-    QVERIFY(QDir(QStringLiteral("blconf")).isEmpty());
+    QTest::addColumn<FilePlace>("place");
+    QTest::newRow("a folder in its place")
+        << FilePlace([](const QString& path) { return QDir().mkdir(path); });
+    QTest::newRow("a link to itself")
+        << FilePlace([](const QString& path) { return QFile::link(path, path); });
 }
 
-void TestProgram::startsWithAForbiddenFile()
+// Nothing of it is read, and what is in its place stays there.
+void TestProgram::startsWithoutAFileToOpen()
 {
-    enter({{QStringLiteral("winwidth"), QStringLiteral("910")},
-           {QStringLiteral("winheight"), QStringLiteral("805")}});
-    QVERIFY(QFile::setPermissions(QStringLiteral("blconf"), {}));
-    const bool readable = QFileInfo(QStringLiteral("blconf")).isReadable(); // as it is to the superuser
-    const xcb_window_t window = program->start({});
-    QVERIFY(window != 0);
-    QCOMPARE(screen->sizeOf(window), readable ? QSize(910, 805) : QSize(850, 789));
-    QVERIFY(program->end(window));
+    QFETCH(const FilePlace, place);
+    enter({});
+    QVERIFY(place(configurationName));
+    QCOMPARE(complaints(QStringLiteral(PROGRAM_FILE)), unreadable);
+    QCOMPARE(lastSize, QSize(850, 789));
     QCOMPARE(program->process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program->process.exitCode(), 0);
+    QCOMPARE(QDir().entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot),
+             QStringList(configurationName));
+    QVERIFY(!QFileInfo(configurationName).isFile());
+}
+
+// The superuser may read any file, unless that right is taken away.
+void TestProgram::startsWithAForbiddenFile()
+{
+    const Settings hidden{{QStringLiteral("winwidth"), QStringLiteral("910")},
+                          {QStringLiteral("winheight"), QStringLiteral("805")},
+                          {QStringLiteral("language"), QStringLiteral("xx_yy")}};
+    enter(hidden);
+    QVERIFY(QFile::setPermissions(configurationName, {}));
+    if (QFileInfo(configurationName).isReadable())
+        QCOMPARE(complaints(QStringLiteral("setpriv"),
+                            {QStringLiteral("--bounding-set=-dac_override,-dac_read_search"),
+                             QStringLiteral(PROGRAM_FILE)}),
+                 unreadable);
+    else
+        QCOMPARE(complaints(QStringLiteral(PROGRAM_FILE)), unreadable);
+    QCOMPARE(lastSize, QSize(850, 789));
+    QCOMPARE(program->process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program->process.exitCode(), 0);
+    QVERIFY(QFile::setPermissions(configurationName, QFile::ReadOwner));
+    QCOMPARE(WorkFolder::configuration(), hidden);
 }
 
 void TestProgram::logsItsLanguage_data()
@@ -306,7 +336,7 @@ void TestProgram::looksForNothingBesideItself()
     QVERIFY(QFile::copy(QStringLiteral("blconf"), home.filePath(QStringLiteral("blconf"))));
     QVERIFY(QFile::copy(QStringLiteral(PROGRAM_FILE), file));
     enter({});
-    QCOMPARE(complaints(file), QByteArray("Unable to read configuration file."));
+    QCOMPARE(complaints(file), unreadable);
     QCOMPARE(configurationBesidesTheFont(), defaults());
 
     enter({{QStringLiteral("language"), QStringLiteral("it_ch")}});
