@@ -18,12 +18,17 @@ foreach(concern time zonelabel)
     MOCK NETWORK X11
   )
 endforeach()
-foreach(concern validity validityinterruptions validityquestions extendedinterruptions timesync timesyncfaults timesyncvalues timeanswers poolanswers repair)
+foreach(concern validity validitydialogs validityinterruptions validityquestions extendedinterruptions timesync timesyncfaults timesyncvalues timeanswers poolanswers repair)
   brumalogger_add_test(tst_mainwindow_${concern} SOURCES timerig.cpp timerig.h tst_mainwindow_${concern}.cpp
     LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time
     MOCK NETWORK
   )
 endforeach()
+brumalogger_add_test(tst_mainwindow_rangeinterruptions
+  SOURCES setuppanel.cpp setuppanel.h timerig.cpp timerig.h tst_mainwindow_rangeinterruptions.cpp
+  LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time
+  MOCK NETWORK
+)
 foreach(concern zoneeditor zoneeditordates zoneeditordisclaimer zoneeditorinterruptions zoneeditorwrites)
   brumalogger_add_test(tst_mainwindow_${concern}
     SOURCES timerig.cpp timerig.h tst_mainwindow_${concern}.cpp zonerig.cpp zonerig.h
@@ -39,7 +44,7 @@ brumalogger_add_test(tst_mainwindow_updates SOURCES updaterig.cpp updaterig.h ts
   LINK brumalogger_proceduretests brumalogger_update brumalogger_webtests
   MOCK NETWORK X11
 )
-foreach(concern prompts mandatoryprompts promptboxes promptdialogs promptchecks)
+foreach(concern prompts mandatoryprompts promptboxes promptdialogs promptfiledialogs promptchecks)
   brumalogger_add_test(tst_mainwindow_${concern} SOURCES updaterig.cpp updaterig.h tst_mainwindow_${concern}.cpp
     LINK brumalogger_proceduretests brumalogger_update brumalogger_webtests
     MOCK NETWORK

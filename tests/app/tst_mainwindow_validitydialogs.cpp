@@ -1,0 +1,163 @@
+// The time servers' answer tells that the device is invalid while something is open that has nothing to do
+// with the device: the question for the exit, the settings, the About box, a label's menu.
+
+#include "dialogs/settingsdialog.h"
+#include "support/nextchance.h"
+#include "timerig.h"
+#include "windowstate.h"
+#include "windowwords.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QMenu>
+#include <QPointer>
+#include <QSpinBox>
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
+
+using namespace WindowWords;
+
+namespace {
+
+const QString found = QStringLiteral("Invalid device detected.");
+const QString gone = QStringLiteral("Disconnected from ttyACM0");
+
+struct DoubtfulRig : WaitingRig
+{
+    DoubtfulRig()
+        : WaitingRig(Q_INT64_C(3) * 86400 * 1000)
+    {
+        rig.plugAndConnect();
+        rig.takeStatusLog();
+    }
+
+    /// Tells the time once the box with this title is open; `stayed` is whether that is there afterwards.
+    void tellTimeOver(const QString& title, const QString& lastStatus)
+    {
+        QObject::connect(&rig.robot, &DialogRobot::sBoxOpened, &rig.window,
+                         [this, title, lastStatus](const QString& opened) {
+                             if (opened != title)
+                                 return;
+                             const QPointer<QWidget> box = QApplication::activeModalWidget();
+                             tellTimeUntil(lastStatus);
+                             stayed = box && box->isVisible();
+                         });
+    }
+
+    bool stayed = false;
+};
+
+} // namespace
+
+class TestMainWindowValidityDialogs : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void overTheExitQuestion_data();
+    void overTheExitQuestion();
+    void overTheSettings();
+    void overTheAboutBox();
+    void overALabelsMenu();
+};
+
+void TestMainWindowValidityDialogs::overTheExitQuestion_data()
+{
+    QTest::addColumn<bool>("leaves");
+    QTest::addColumn<bool>("exits");
+    QTest::newRow("disconnects and exits") << true << true;
+    QTest::newRow("disconnects and stays") << true << false;
+    QTest::newRow("stays connected and exits") << false << true;
+    QTest::newRow("stays connected and stays") << false << false;
+}
+
+// It goes on asking about changes, which may be gone already.
+void TestMainWindowValidityDialogs::overTheExitQuestion()
+{
+    QFETCH(const bool, leaves);
+    QFETCH(const bool, exits);
+    DoubtfulRig waiting;
+    TimeRig& rig = waiting.rig;
+    rig.type("lineInfo", QStringLiteral("Batch 8"));
+    waiting.tellTimeOver(QStringLiteral("Exit"), leaves ? gone : found);
+    expectInvalidDevice(rig.robot); // this one and the next over the question, and so answered first
+    expectDisconnecting(rig.robot, leaves ? Yes : No);
+    expectExit(rig.robot, exits ? Yes : No);
+    QCOMPARE(rig.window.close(), exits);
+    QVERIFY(waiting.told);
+    QVERIFY(waiting.stayed);
+    QCOMPARE(rig.wire(), QList<QByteArray>{"m"});
+    if (exits) {
+        QCOMPARE(closedWindowRemains(rig), QString());
+        return;
+    }
+    WindowState kept = idle(found, true);
+    kept.controls = Controls::Disabled;
+    QCOMPARE(panels(rig) == emptyPanels(), leaves);
+    QCOMPARE(differences(rig, leaves ? disconnected() : kept), QString());
+}
+
+// They are none of the device's, and what the operator has chosen is still there to be accepted.
+void TestMainWindowValidityDialogs::overTheSettings()
+{
+    DoubtfulRig waiting;
+    TimeRig& rig = waiting.rig;
+    atNextChance(rig.dialog, [&] {
+        child<QSpinBox>(*rig.dialog, "spinFont")->setValue(17);
+        waiting.tellTimeUntil(gone);
+        waiting.stayed = rig.dialog->isVisible();
+        rig.dialog->accept();
+    });
+    expectInvalidDevice(rig.robot);
+    rig.find<QAction>("actionSettings")->trigger();
+    QVERIFY(waiting.told);
+    QVERIFY(waiting.stayed);
+    QCOMPARE(rig.window.styleSheet(), QStringLiteral("font-size: 17pt"));
+    QCOMPARE(panels(rig), emptyPanels());
+    QCOMPARE(rig.takeStatusLog(), QStringList({TimeWords::fetchedServer, found, gone}));
+    QCOMPARE(differences(rig, disconnected()), QString());
+}
+
+void TestMainWindowValidityDialogs::overTheAboutBox()
+{
+    DoubtfulRig waiting;
+    TimeRig& rig = waiting.rig;
+    waiting.tellTimeOver(QStringLiteral("About Brumalogger Configuration Tool"), gone);
+    expectInvalidDevice(rig.robot);
+    expectAbout(rig.robot);
+    rig.find<QAction>("actionAbout")->trigger();
+    QVERIFY(waiting.told);
+    QVERIFY(waiting.stayed);
+    QCOMPARE(panels(rig), emptyPanels());
+    QCOMPARE(differences(rig, disconnected()), QString());
+}
+
+// The menu may be left open or not; the label that it copies is empty by then.
+void TestMainWindowValidityDialogs::overALabelsMenu()
+{
+    DoubtfulRig waiting;
+    TimeRig& rig = waiting.rig;
+    auto* label = rig.find<QLabel>("labelSerial");
+    QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+    QTimer::singleShot(0, &rig.window, [&] {
+        const QPointer<QWidget> menu = QApplication::activePopupWidget();
+        waiting.stayed = !menu.isNull();
+        waiting.tellTimeUntil(gone);
+        if (menu)
+            menu->close();
+    });
+    expectInvalidDevice(rig.robot);
+    QTest::mouseClick(rig.window.windowHandle(), Qt::RightButton, {},
+                      label->mapTo(&rig.window, label->rect().center()));
+    QVERIFY(waiting.stayed);
+    QVERIFY(waiting.told);
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
+    QCOMPARE(panels(rig), emptyPanels());
+    QCOMPARE(differences(rig, disconnected()), QString());
+}
+
+QTEST_MAIN(TestMainWindowValidityDialogs)
+#include "tst_mainwindow_validitydialogs.moc"
