@@ -1,5 +1,6 @@
 # Presets in the window: saving, loading, and what comes in between.
 add_library(brumalogger_presettests STATIC
+  answeredrig.cpp answeredrig.h
   presetrig.cpp presetrig.h
   setuppanel.cpp setuppanel.h
   timerig.cpp timerig.h
@@ -9,7 +10,8 @@ target_link_libraries(brumalogger_presettests PUBLIC
   brumalogger_proceduretests
   brumalogger_time
 )
-foreach(concern saving loading values dates roundtrip range languages zone zonewrites interruptions)
+foreach(concern saving loading values dates roundtrip range languages zone zonewrites interruptions
+    lostdevice)
   brumalogger_add_test(tst_mainwindow_presets_${concern} SOURCES tst_mainwindow_presets_${concern}.cpp
     LINK brumalogger_presettests
     MOCK NETWORK

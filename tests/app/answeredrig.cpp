@@ -1,0 +1,64 @@
+// Presets in a window that waits for the time, and looks at what opens meanwhile.
+
+#include "answeredrig.h"
+
+#include <QTest>
+
+const QString DoubtfulPresetRig::disconnected = QStringLiteral("Disconnected from ttyACM0");
+
+namespace {
+
+constexpr qint64 threeDays = Q_INT64_C(3) * 24 * 60 * 60 * 1000;
+
+} // namespace
+
+Settings timeAndPresets()
+{
+    Settings settings = presetSettings();
+    settings.insert(QStringLiteral("disabletime"), QStringLiteral("0"));
+    return settings;
+}
+
+PresetTable milkPreset()
+{
+    return presetWith(presetOfBasicLogger(), {{QStringLiteral("info"), QStringLiteral("Milk")}});
+}
+
+AnsweredRig::AnsweredRig(qint64 ahead)
+    : rig(timeAndPresets())
+{
+    servers.answer(NtpAnswer::currentTime(ahead).later());
+    if (!QTest::qWaitFor([this] { return servers.requests() > 0; }))
+        qFatal("nobody asks for the time");
+}
+
+void AnsweredRig::answer(const QString& status)
+{
+    servers.release();
+    came = rig.comesTo(status);
+}
+
+DoubtfulPresetRig::DoubtfulPresetRig()
+    : AnsweredRig(threeDays)
+{
+    rig.plugAndConnect();
+}
+
+void atFileDialog(PresetRig& rig, const std::function<void(QFileDialog*)>& action)
+{
+    QObject::connect(&rig.hand, &FileDialogHand::sOpened, &rig.window, action);
+}
+
+void atFirstBox(PresetRig& rig, const std::function<void()>& action)
+{
+    QObject::connect(&rig.robot, &DialogRobot::sBoxOpened, &rig.window, [&rig, action] {
+        if (rig.robot.boxes().size() == 1)
+            action();
+    });
+}
+
+void PresetWords::expectReplace(DialogRobot& robot, QMessageBox::StandardButton answer)
+{
+    robot.expectWarningQuestion(
+        saveTitle, QStringLiteral("own.bpr already exists.\nDo you want to replace it?"), answer);
+}
