@@ -93,7 +93,7 @@ void TestMainWindowPresetsLostDevice::changesAtTheFileDialog()
     bool stayed = true;
     atFileDialog(rig, [&](QFileDialog* dialog) {
         fileDialog = dialog;
-        doubtful.answer(leaves ? doubtful.disconnected : found);
+        doubtful.answer(leaves ? DoubtfulPresetRig::disconnected : found);
     });
     connect(&rig.robot, &DialogRobot::sBoxOpened, &rig.window, [&](const QString& title) {
         if (title == QStringLiteral("Disconnecting") && fileDialog)

@@ -15,7 +15,6 @@
 #include <QPointer>
 #include <QSpinBox>
 #include <QTest>
-#include <QTimer>
 #include <QWindow>
 
 using namespace WindowWords;
@@ -142,7 +141,7 @@ void TestMainWindowValidityDialogs::overALabelsMenu()
     TimeRig& rig = waiting.rig;
     auto* label = rig.find<QLabel>("labelSerial");
     QGuiApplication::clipboard()->setText(QStringLiteral("before"));
-    QTimer::singleShot(0, &rig.window, [&] {
+    atNextChance(&rig.window, [&] {
         const QPointer<QWidget> menu = QApplication::activePopupWidget();
         waiting.stayed = !menu.isNull();
         waiting.tellTimeUntil(gone);
