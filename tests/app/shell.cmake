@@ -18,7 +18,8 @@ foreach(concern time zonelabel)
     MOCK NETWORK X11
   )
 endforeach()
-foreach(concern validity validitydialogs validityinterruptions validityquestions extendedinterruptions timesync timesyncfaults timesyncvalues timeanswers poolanswers repair)
+foreach(concern validity validitydialogs validityinterruptions validityquestions extendedinterruptions
+    timesync timesyncfaults timesyncvalues timeanswers poolanswers repair)
   brumalogger_add_test(tst_mainwindow_${concern} SOURCES timerig.cpp timerig.h tst_mainwindow_${concern}.cpp
     LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time
     MOCK NETWORK
