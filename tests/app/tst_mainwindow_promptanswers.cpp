@@ -9,13 +9,13 @@
 
 #include <QTest>
 
+using namespace TimeWords;
 using namespace WindowWords;
 
 namespace {
 
 constexpr auto Ok = QMessageBox::Ok;
 constexpr qint64 threeDays = Q_INT64_C(3) * 86400 * 1000;
-const QString foundInvalid = QStringLiteral("Disconnected from ttyACM0");
 
 /// Servers that answer when they are told to.
 struct WaitingServers : Servers
@@ -56,7 +56,7 @@ void addAheadRows()
     QTest::addColumn<qint64>("ahead");
     QTest::addColumn<QString>("status");
     QTest::newRow("logger is valid") << qint64(0) << TimeWords::fetchedServer;
-    QTest::newRow("logger is invalid") << threeDays << foundInvalid;
+    QTest::newRow("logger is invalid") << threeDays << leftPort;
 }
 
 void addModifiedRows()
@@ -99,13 +99,13 @@ void TestMainWindowPromptAnswers::answers()
         if (title == QStringLiteral("Update Available"))
             told = judging.tellTimeUntil(status);
     });
-    if (status == foundInvalid)
+    if (status == leftPort)
         expectInvalidDevice(rig.robot);
     expectUpdate(rig.robot, newestVersion, Ok);
     QVERIFY(update.prompt());
     QVERIFY(told);
     QCOMPARE(update.browser.opened, newerAddress);
-    QCOMPARE(differences(rig, status == foundInvalid ? disconnected() : idle(status, false)), QString());
+    QCOMPARE(differences(rig, status == leftPort ? disconnected() : idle(status, false)), QString());
 }
 
 // The judgement is told behind the prompt.
@@ -116,15 +116,14 @@ void TestMainWindowPromptAnswers::duringTheQuestion()
     JudgingRig judging(newerFile, ahead);
     UpdateRig& update = judging.update;
     expectUpdate(update.rig.robot, newestVersion, Ok);
-    if (status == foundInvalid)
+    if (status == leftPort)
         expectInvalidDevice(update.rig.robot);
     update.promptAt(1);
     QVERIFY(judging.tellTimeUntil(status));
     QTRY_VERIFY(update.prompted);
     QTRY_COMPARE(update.rig.wire(), QList<QByteArray>({"m"}));
     QCOMPARE(update.browser.opened, newerAddress);
-    QCOMPARE(differences(update.rig, status == foundInvalid ? disconnected() : idle(status, false)),
-             QString());
+    QCOMPARE(differences(update.rig, status == leftPort ? disconnected() : idle(status, false)), QString());
 }
 
 void TestMainWindowPromptAnswers::closesDuringTheQuestion()
@@ -148,7 +147,7 @@ void TestMainWindowPromptAnswers::overInvalidDevice()
     expectUpdate(update.rig.robot, newestVersion, Ok);
     expectInvalidDevice(update.rig.robot);
     update.promptOverBox();
-    QVERIFY(judging.tellTimeUntil(foundInvalid));
+    QVERIFY(judging.tellTimeUntil(leftPort));
     QVERIFY(update.prompted);
     QCOMPARE(update.rig.wire(), QList<QByteArray>({"m"}));
     QCOMPARE(differences(update.rig, disconnected()), QString());
@@ -181,7 +180,7 @@ void TestMainWindowPromptAnswers::overTheDisconnect()
     expectUpdate(update.rig.robot, newestVersion, Ok);
     expectDisconnecting(update.rig.robot, Yes);
     update.promptOverBox(2);
-    QVERIFY(judging.tellTimeUntil(foundInvalid));
+    QVERIFY(judging.tellTimeUntil(leftPort));
     QVERIFY(update.prompted);
     QCOMPARE(update.rig.wire(), QList<QByteArray>({"m"}));
     QCOMPARE(differences(update.rig, disconnected()), QString());

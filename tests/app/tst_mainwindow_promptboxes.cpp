@@ -110,10 +110,7 @@ const Box disconnecting = [](DialogRobot& robot) { expectDisconnecting(robot, Ye
 const Box readQuestion = [](DialogRobot& robot) { expectReadQuestion(robot, No); };
 const Box startModified = [](DialogRobot& robot) { expectStartModified(robot, Yes); };
 const Box startConfirm = [](DialogRobot& robot) { expectStartConfirm(robot, Yes); };
-const Box noPasswordAnswer = [](DialogRobot& robot) {
-    robot.expectWarning(QStringLiteral("Unlock device"),
-                        QStringLiteral("Failed while trying to unlock device."));
-};
+const Box noPasswordAnswer = [](DialogRobot& robot) { expectPasswordUnanswered(robot); };
 
 QList<Scene> unlockScenes()
 {

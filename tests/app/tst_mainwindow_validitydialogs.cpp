@@ -17,20 +17,16 @@
 #include <QTest>
 #include <QWindow>
 
+using namespace TimeWords;
 using namespace WindowWords;
 
 namespace {
 
-const QString found = QStringLiteral("Invalid device detected.");
-const QString gone = QStringLiteral("Disconnected from ttyACM0");
-
-struct DoubtfulRig : WaitingRig
+struct JudgedRig : DoubtfulRig
 {
-    DoubtfulRig()
-        : WaitingRig(Q_INT64_C(3) * 86400 * 1000)
+    JudgedRig()
+        : DoubtfulRig(basicLogger())
     {
-        rig.plugAndConnect();
-        rig.takeStatusLog();
     }
 
     /// Tells the time once the box with this title is open; `stayed` is whether that is there afterwards.
@@ -78,10 +74,10 @@ void TestMainWindowValidityDialogs::overTheExitQuestion()
 {
     QFETCH(const bool, leaves);
     QFETCH(const bool, exits);
-    DoubtfulRig waiting;
+    JudgedRig waiting;
     TimeRig& rig = waiting.rig;
     rig.type("lineInfo", QStringLiteral("Batch 8"));
-    waiting.tellTimeOver(QStringLiteral("Exit"), leaves ? gone : found);
+    waiting.tellTimeOver(QStringLiteral("Exit"), leaves ? leftPort : foundInvalid);
     expectInvalidDevice(rig.robot); // this one and the next over the question, and so answered first
     expectDisconnecting(rig.robot, leaves ? Yes : No);
     expectExit(rig.robot, exits ? Yes : No);
@@ -93,7 +89,7 @@ void TestMainWindowValidityDialogs::overTheExitQuestion()
         QCOMPARE(closedWindowRemains(rig), QString());
         return;
     }
-    WindowState kept = idle(found, true);
+    WindowState kept = idle(foundInvalid, true);
     kept.controls = Controls::Disabled;
     QCOMPARE(panels(rig) == emptyPanels(), leaves);
     QCOMPARE(differences(rig, leaves ? disconnected() : kept), QString());
@@ -102,11 +98,11 @@ void TestMainWindowValidityDialogs::overTheExitQuestion()
 // They are none of the device's, and what the operator has chosen is still there to be accepted.
 void TestMainWindowValidityDialogs::overTheSettings()
 {
-    DoubtfulRig waiting;
+    JudgedRig waiting;
     TimeRig& rig = waiting.rig;
     atNextChance(rig.dialog, [&] {
         child<QSpinBox>(*rig.dialog, "spinFont")->setValue(17);
-        waiting.tellTimeUntil(gone);
+        waiting.tellTimeUntil(leftPort);
         waiting.stayed = rig.dialog->isVisible();
         rig.dialog->accept();
     });
@@ -116,15 +112,15 @@ void TestMainWindowValidityDialogs::overTheSettings()
     QVERIFY(waiting.stayed);
     QCOMPARE(rig.window.styleSheet(), QStringLiteral("font-size: 17pt"));
     QCOMPARE(panels(rig), emptyPanels());
-    QCOMPARE(rig.takeStatusLog(), QStringList({TimeWords::fetchedServer, found, gone}));
+    QCOMPARE(rig.takeStatusLog(), QStringList({fetchedServer, foundInvalid, leftPort}));
     QCOMPARE(differences(rig, disconnected()), QString());
 }
 
 void TestMainWindowValidityDialogs::overTheAboutBox()
 {
-    DoubtfulRig waiting;
+    JudgedRig waiting;
     TimeRig& rig = waiting.rig;
-    waiting.tellTimeOver(QStringLiteral("About Brumalogger Configuration Tool"), gone);
+    waiting.tellTimeOver(QStringLiteral("About Brumalogger Configuration Tool"), leftPort);
     expectInvalidDevice(rig.robot);
     expectAbout(rig.robot);
     rig.find<QAction>("actionAbout")->trigger();
@@ -137,14 +133,14 @@ void TestMainWindowValidityDialogs::overTheAboutBox()
 // The menu may be left open or not; the label that it copies is empty by then.
 void TestMainWindowValidityDialogs::overALabelsMenu()
 {
-    DoubtfulRig waiting;
+    JudgedRig waiting;
     TimeRig& rig = waiting.rig;
     auto* label = rig.find<QLabel>("labelSerial");
     QGuiApplication::clipboard()->setText(QStringLiteral("before"));
     atNextChance(&rig.window, [&] {
         const QPointer<QWidget> menu = QApplication::activePopupWidget();
         waiting.stayed = !menu.isNull();
-        waiting.tellTimeUntil(gone);
+        waiting.tellTimeUntil(leftPort);
         if (menu)
             menu->close();
     });

@@ -76,10 +76,15 @@ void WindowWords::expectWrongPassword(DialogRobot& robot)
                         "PasswordDialog");
 }
 
-void WindowWords::expectNoAnswerToPassword(DialogRobot& robot)
+void WindowWords::expectPasswordUnanswered(DialogRobot& robot)
 {
     robot.expectWarning(QStringLiteral("Unlock device"),
                         QStringLiteral("Failed while trying to unlock device."), "PasswordDialog");
+}
+
+void WindowWords::expectNoAnswerToPassword(DialogRobot& robot)
+{
+    expectPasswordUnanswered(robot);
     expectWrongPassword(robot);
 }
 

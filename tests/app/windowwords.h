@@ -22,7 +22,8 @@ void expectReadIncorrect(DialogRobot& robot);
 void expectConnectFailed(DialogRobot& robot);
 
 void expectWrongPassword(DialogRobot& robot);
-/// Two boxes.
+/// The first of two boxes, and both.
+void expectPasswordUnanswered(DialogRobot& robot);
 void expectNoAnswerToPassword(DialogRobot& robot);
 
 void expectWriteFailed(DialogRobot& robot);
