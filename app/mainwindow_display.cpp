@@ -105,7 +105,7 @@ void MainWindow::plUpdateTimeZoneLabel()
     if (found)
         ui->labelTimeZone->setText(match.name);
     plShowTimeZone(found);
-    plMakeRoom(); // whatever fills the panels comes here in the end
+    plMakeRoom(); // what fills the panels comes here in the end, unless it fails
 }
 
 void MainWindow::plSetTimeZone(const QString& name)

@@ -15,8 +15,8 @@ namespace {
 constexpr int fastWait = 75;
 constexpr int slowWait = 150;
 constexpr int spinSlice = 10;
-/// The computer's clock is set back by more than this: it passed midnight, or somebody set it.
-constexpr int clockJump = 1000;
+/// A clock that went back further than any correction of it has passed midnight.
+constexpr int largestCorrection = 3600 * 1000;
 
 // True once the plug was pulled.
 bool isHungUp(int line)
@@ -51,7 +51,7 @@ void BrumaloggerInterface::lWait(int msecs)
 {
     const QTime deadline = QTime::currentTime().addMSecs(msecs);
     const auto left = [deadline] { return QTime::currentTime().msecsTo(deadline); };
-    for (int rest = left(); rest > 0 && rest <= msecs + clockJump; rest = left())
+    for (int rest = left(); rest > 0 && rest <= msecs + largestCorrection; rest = left())
         QCoreApplication::processEvents(QEventLoop::AllEvents, spinSlice);
 }
 

@@ -46,6 +46,7 @@ private slots:
     void midnightEndsTheWaitAtOnce();
     void waitAfterMidnightIsWhole();
     void waitHeldUpOverMidnightEnds();
+    void correctedClockLengthensTheWait();
     void eventLoopRunsDuringTheWait();
 };
 
@@ -233,6 +234,24 @@ void TestBrumaloggerInterfaceExchange::waitHeldUpOverMidnightEnds()
     rig.link.lWait(fastWait);
     QVERIFY(heldUp);
     QVERIFY(!rescued);
+}
+
+// Its reply may still be under way.
+void TestBrumaloggerInterfaceExchange::correctedClockLengthensTheWait()
+{
+    static constexpr qint64 correction = 59 * 60 * 1000;
+    DeviceRig rig;
+    TestClock::set(midnight() + 2 * correction);
+    bool stillWaits = false;
+    QTimer::singleShot(0, &rig.link, [&] {
+        TestClock::shift(-correction);
+        QTimer::singleShot(2 * fastWait, &rig.link, [&stillWaits] {
+            stillWaits = true;
+            TestClock::shift(correction);
+        });
+    });
+    rig.link.lWait(fastWait);
+    QVERIFY(stillWaits);
 }
 
 void TestBrumaloggerInterfaceExchange::eventLoopRunsDuringTheWait()
