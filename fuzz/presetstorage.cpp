@@ -116,6 +116,12 @@ Verdict judge(const QByteArray& file, Table* table)
     return Verdict::Loaded;
 }
 
+/// A file that was saved just now.
+Verdict judgeSaved(const QByteArray& file, Table* table)
+{
+    return file.startsWith("2.0\n") ? readEnciphered(file.split('\n'), table) : Verdict::Refused;
+}
+
 /// Whether @p storage has @p table, and saves that and no more.
 bool holds(PresetStorage& storage, const Table& table)
 {
@@ -127,7 +133,7 @@ bool holds(PresetStorage& storage, const Table& table)
     Table saved;
     if (!storage.save(file.path()))
         return false;
-    const Verdict verdict = judge(file.content(), &saved);
+    const Verdict verdict = judgeSaved(file.content(), &saved);
     return verdict == Verdict::Unknown || (verdict == Verdict::Loaded && saved == table);
 }
 
@@ -140,7 +146,7 @@ bool survives(PresetStorage& storage)
     Table table;
     PresetStorage again;
     const bool loaded = again.load(copy.path());
-    return judge(copy.content(), &table) == Verdict::Unknown ? loaded : loaded && holds(again, table);
+    return judgeSaved(copy.content(), &table) == Verdict::Unknown ? loaded : loaded && holds(again, table);
 }
 
 } // namespace

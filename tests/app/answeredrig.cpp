@@ -4,20 +4,11 @@
 
 #include <QTest>
 
-const QString DoubtfulPresetRig::disconnected = QStringLiteral("Disconnected from ttyACM0");
-
 namespace {
 
 constexpr qint64 threeDays = Q_INT64_C(3) * 24 * 60 * 60 * 1000;
 
 } // namespace
-
-Settings timeAndPresets()
-{
-    Settings settings = presetSettings();
-    settings.insert(QStringLiteral("disabletime"), QStringLiteral("0"));
-    return settings;
-}
 
 PresetTable milkPreset()
 {

@@ -6,8 +6,6 @@
 
 class QFileDialog;
 
-/// The default preset and the time configuration on.
-Settings timeAndPresets();
 /// What basicLogger() makes of a preset, with another text.
 PresetTable milkPreset();
 
@@ -30,9 +28,7 @@ struct DoubtfulPresetRig : AnsweredRig
 {
     DoubtfulPresetRig();
 
-    void tellThatItIsInvalid() { answer(disconnected); }
-
-    static const QString disconnected;
+    void tellThatItIsInvalid() { answer(TimeWords::leftPort); }
 };
 
 /// Does @p action at each file dialog, before that is answered.

@@ -112,6 +112,11 @@ PresetTable presetWithout(PresetTable table, const QStringList& keys)
     return table;
 }
 
+PresetTable presetOfZone(const QString& zone)
+{
+    return presetWith(presetOfBasicLogger(), {{QStringLiteral("timezone"), zone}});
+}
+
 QDateTime figures(int day, int month, int year, int hour, int minute, int second)
 {
     return {QDate(year, month, day), QTime(hour, minute, second), Qt::UTC};
@@ -131,6 +136,13 @@ Settings presetSettings()
 {
     return quietSettingsWith(
         {{QStringLiteral("preseten"), QStringLiteral("1")}, {QStringLiteral("presetpath"), defaultPreset}});
+}
+
+Settings timeAndPresets()
+{
+    Settings settings = presetSettings();
+    settings.insert(QStringLiteral("disabletime"), QStringLiteral("0"));
+    return settings;
 }
 
 EnvironmentVariable::EnvironmentVariable(const char* name, const QString& value)

@@ -25,6 +25,8 @@ PresetTable presetOfBasicLogger();
 /// @p table with other values for some keys.
 PresetTable presetWith(PresetTable table, const PresetTable& changes);
 PresetTable presetWithout(PresetTable table, const QStringList& keys);
+/// presetOfBasicLogger() in another zone.
+PresetTable presetOfZone(const QString& zone);
 
 /// A test's data with the column "typed": what is no name, empty where the file dialog is cancelled.
 void addNamelessRows();
@@ -37,6 +39,8 @@ QString stopDate(const WindowRig& rig);
 
 /// Time configuration off, and "default.bpr" in the current folder as the default preset.
 Settings presetSettings();
+/// The same with time configuration on.
+Settings timeAndPresets();
 const QString defaultPreset = QStringLiteral("default.bpr");
 
 /// Sets an environment variable as long as it lives.

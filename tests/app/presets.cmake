@@ -2,14 +2,8 @@
 add_library(brumalogger_presettests STATIC
   answeredrig.cpp answeredrig.h
   presetrig.cpp presetrig.h
-  setuppanel.cpp setuppanel.h
-  timerig.cpp timerig.h
 )
-target_link_libraries(brumalogger_presettests PUBLIC
-  brumalogger_ntpresponder
-  brumalogger_proceduretests
-  brumalogger_time
-)
+target_link_libraries(brumalogger_presettests PUBLIC brumalogger_timetests)
 foreach(concern saving loading values dates roundtrip range languages zone zonewrites interruptions
     lostdevice)
   brumalogger_add_test(tst_mainwindow_presets_${concern} SOURCES tst_mainwindow_presets_${concern}.cpp

@@ -1,39 +1,46 @@
 # The window as it stands: its form, its states, the setup panel, the text lines; and the program as a whole.
+
+# Windows whose time servers answer as a test wants, and whose list of versions is a test's.
+add_library(brumalogger_timetests STATIC
+  setuppanel.cpp setuppanel.h
+  timerig.cpp timerig.h
+  zonerig.cpp zonerig.h
+)
+target_link_libraries(brumalogger_timetests PUBLIC brumalogger_ntpresponder brumalogger_proceduretests brumalogger_time)
+add_library(brumalogger_prompttests STATIC updaterig.cpp updaterig.h)
+target_link_libraries(brumalogger_prompttests PUBLIC
+  brumalogger_proceduretests
+  brumalogger_update
+  brumalogger_webtests
+)
+
 brumalogger_add_test(tst_devicetext SOURCES tst_devicetext.cpp LINK brumalogger_app)
 brumalogger_add_test(tst_stepprogress SOURCES tst_stepprogress.cpp LINK brumalogger_app X11)
-foreach(concern form layout shell changes copying guide setup range texts zone about)
+foreach(concern form layout shell changes copying guide texts zone about)
   brumalogger_add_test(tst_mainwindow_${concern} SOURCES tst_mainwindow_${concern}.cpp
     LINK brumalogger_proceduretests MOCK X11)
 endforeach()
 foreach(concern setup range)
-  target_sources(tst_mainwindow_${concern} PRIVATE setuppanel.cpp setuppanel.h)
+  brumalogger_add_test(tst_mainwindow_${concern} SOURCES tst_mainwindow_${concern}.cpp
+    LINK brumalogger_timetests MOCK X11)
 endforeach()
 brumalogger_add_test(tst_mainwindow_settings SOURCES tst_mainwindow_settings.cpp
   LINK brumalogger_proceduretests
   MOCK NETWORK X11
 )
 foreach(concern time zonelabel)
-  brumalogger_add_test(tst_mainwindow_${concern} SOURCES timerig.cpp timerig.h tst_mainwindow_${concern}.cpp
-    LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time
+  brumalogger_add_test(tst_mainwindow_${concern} SOURCES tst_mainwindow_${concern}.cpp
+    LINK brumalogger_timetests
     MOCK NETWORK X11
   )
 endforeach()
-foreach(concern validity validitydialogs validityinterruptions validityquestions extendedinterruptions
-    timesync timesyncfaults timesyncvalues timeanswers poolanswers repair)
-  brumalogger_add_test(tst_mainwindow_${concern} SOURCES timerig.cpp timerig.h tst_mainwindow_${concern}.cpp
-    LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time
-    MOCK NETWORK
-  )
-endforeach()
-brumalogger_add_test(tst_mainwindow_rangeinterruptions
-  SOURCES setuppanel.cpp setuppanel.h timerig.cpp timerig.h tst_mainwindow_rangeinterruptions.cpp
-  LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time
-  MOCK NETWORK
-)
-foreach(concern zoneeditor zoneeditordates zoneeditordisclaimer zoneeditorinterruptions zoneeditorwrites)
-  brumalogger_add_test(tst_mainwindow_${concern}
-    SOURCES timerig.cpp timerig.h tst_mainwindow_${concern}.cpp zonerig.cpp zonerig.h
-    LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time
+foreach(concern
+    validity validitydialogs validityinterruptions validityquestions
+    timesync timesyncfaults timesyncvalues timeanswers poolanswers
+    zoneeditor zoneeditordates zoneeditordisclaimer zoneeditorinterruptions zoneeditorwrites
+    extendedinterruptions rangeinterruptions repair)
+  brumalogger_add_test(tst_mainwindow_${concern} SOURCES tst_mainwindow_${concern}.cpp
+    LINK brumalogger_timetests
     MOCK NETWORK
   )
 endforeach()
@@ -41,19 +48,18 @@ brumalogger_add_test(tst_mainwindow_servers SOURCES tst_mainwindow_servers.cpp
   LINK brumalogger_proceduretests
   MOCK TIME_SERVERS
 )
-brumalogger_add_test(tst_mainwindow_updates SOURCES updaterig.cpp updaterig.h tst_mainwindow_updates.cpp
-  LINK brumalogger_proceduretests brumalogger_update brumalogger_webtests
+brumalogger_add_test(tst_mainwindow_updates SOURCES tst_mainwindow_updates.cpp
+  LINK brumalogger_prompttests
   MOCK NETWORK X11
 )
 foreach(concern prompts mandatoryprompts promptboxes promptdialogs promptfiledialogs promptchecks)
-  brumalogger_add_test(tst_mainwindow_${concern} SOURCES updaterig.cpp updaterig.h tst_mainwindow_${concern}.cpp
-    LINK brumalogger_proceduretests brumalogger_update brumalogger_webtests
+  brumalogger_add_test(tst_mainwindow_${concern} SOURCES tst_mainwindow_${concern}.cpp
+    LINK brumalogger_prompttests
     MOCK NETWORK
   )
 endforeach()
-brumalogger_add_test(tst_mainwindow_promptanswers
-  SOURCES timerig.cpp timerig.h updaterig.cpp updaterig.h tst_mainwindow_promptanswers.cpp
-  LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time brumalogger_update brumalogger_webtests
+brumalogger_add_test(tst_mainwindow_promptanswers SOURCES tst_mainwindow_promptanswers.cpp
+  LINK brumalogger_prompttests brumalogger_timetests
   MOCK NETWORK
 )
 brumalogger_add_test(tst_mainwindow_updatecheck SOURCES tst_mainwindow_updatecheck.cpp
@@ -61,8 +67,8 @@ brumalogger_add_test(tst_mainwindow_updatecheck SOURCES tst_mainwindow_updateche
   MOCK WEB_SERVER
 )
 brumalogger_add_test(tst_window_languages
-  SOURCES timerig.cpp timerig.h tst_window_languages.cpp windowinspector.cpp windowinspector.h
-  LINK brumalogger_proceduretests brumalogger_ntpresponder brumalogger_time
+  SOURCES tst_window_languages.cpp windowinspector.cpp windowinspector.h
+  LINK brumalogger_timetests
   MOCK NETWORK X11
 )
 add_dependencies(tst_window_languages brumalogger_translations)

@@ -85,6 +85,7 @@ private slots:
     void sizes();
     void growsWithItsFont_data();
     void growsWithItsFont();
+    void savedSizeGrowsWithADevicesValues();
     void iconFromWorkingDirectory();
     void noIconWithoutTheFile();
     void unifiedTitle();
@@ -238,6 +239,19 @@ void TestMainWindowLayout::growsWithItsFont()
     const QSize needed = rig.window.minimumSizeHint();
     QCOMPARE(needed.width() > formSize.width(), grows);
     QCOMPARE(rig.window.size(), formSize.expandedTo(needed.boundedTo(rig.window.screen()->availableSize())));
+}
+
+void TestMainWindowLayout::savedSizeGrowsWithADevicesValues()
+{
+    constexpr QSize saved(770, 690);
+    ProcedureRig rig(quietSettingsWith({{QStringLiteral("winwidth"), QString::number(saved.width())},
+                                        {QStringLiteral("winheight"), QString::number(saved.height())},
+                                        {QStringLiteral("fontsize"), QStringLiteral("20")}}));
+    QCOMPARE(rig.window.size(), saved);
+    rig.plugAndConnect();
+    const QSize needed = rig.window.minimumSizeHint();
+    QVERIFY(needed.width() > saved.width());
+    QCOMPARE(rig.window.size(), saved.expandedTo(needed.boundedTo(rig.window.screen()->availableSize())));
 }
 
 void TestMainWindowLayout::iconFromWorkingDirectory()

@@ -18,18 +18,6 @@ QString marked(const QString& text)
     return MarkingTranslator::marked(text);
 }
 
-Settings timeAndPresets()
-{
-    Settings settings = presetSettings();
-    settings.insert(QStringLiteral("disabletime"), QStringLiteral("0"));
-    return settings;
-}
-
-PresetTable presetOfZone(const QString& zone)
-{
-    return presetWith(presetOfBasicLogger(), {{QStringLiteral("timezone"), zone}});
-}
-
 } // namespace
 
 class TestMainWindowPresetsLanguages : public QObject

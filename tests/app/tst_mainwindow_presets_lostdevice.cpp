@@ -13,6 +13,7 @@
 #include <QTest>
 
 using namespace PresetWords;
+using namespace TimeWords;
 using namespace WindowWords;
 
 class TestMainWindowPresetsLostDevice : public QObject
@@ -86,14 +87,13 @@ void TestMainWindowPresetsLostDevice::changesAtTheFileDialog()
     const QString path = rig.document(QStringLiteral("own.bpr"));
     writePreset(path, milkPreset());
     rig.hand.setPath(path);
-    const QString found = QStringLiteral("Invalid device detected.");
     expectInvalidDevice(rig.robot);
     expectDisconnecting(rig.robot, leaves ? Yes : No);
     QPointer<QFileDialog> fileDialog;
     bool stayed = true;
     atFileDialog(rig, [&](QFileDialog* dialog) {
         fileDialog = dialog;
-        doubtful.answer(leaves ? DoubtfulPresetRig::disconnected : found);
+        doubtful.answer(leaves ? leftPort : foundInvalid);
     });
     connect(&rig.robot, &DialogRobot::sBoxOpened, &rig.window, [&](const QString& title) {
         if (title == QStringLiteral("Disconnecting") && fileDialog)
@@ -105,7 +105,7 @@ void TestMainWindowPresetsLostDevice::changesAtTheFileDialog()
     QCOMPARE(presetIn(path), milkPreset());
     QCOMPARE(panels(rig), leaves ? emptyPanels()
                                  : panelsWith(panelsOfBasicLogger(), {QStringLiteral("lineInfo = Batch 8")}));
-    WindowState kept = idle(found, true);
+    WindowState kept = idle(foundInvalid, true);
     kept.controls = Controls::Disabled;
     QCOMPARE(differences(rig, leaves ? disconnected() : kept), QString());
 }

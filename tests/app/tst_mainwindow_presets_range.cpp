@@ -37,12 +37,6 @@ PresetTable presetOfRange(const QString& min, const QString& max)
                       {{QStringLiteral("mintemp"), min}, {QStringLiteral("maxtemp"), max}});
 }
 
-void expectNotice(DialogRobot& robot)
-{
-    robot.expectInformation(notice, QStringLiteral("Maximum temperature must be at least\n"
-                                                   "one degree higher than minimum temperature."));
-}
-
 /// A minimum above the maximum is typed, and the focus is still in its box.
 class TypingRig : public PresetRig
 {
@@ -195,7 +189,7 @@ void TestMainWindowPresetsRange::rangeOfThePresetIsLookedAtLater()
     rig.pressKeys(Qt::Key_P);
     QCOMPARE(rig.range(), QStringLiteral("10* to 5*"));
     QCOMPARE(rig.robot.problems(), QString());
-    expectNotice(rig.robot);
+    expectRangeNotice(rig.robot);
     rig.find<QWidget>("lineInfo")->setFocus();
     QCOMPARE(rig.range(), QStringLiteral("10* to 11*"));
     QCOMPARE(differences(rig, idle(loaded, false)), QString());
@@ -208,7 +202,7 @@ void TestMainWindowPresetsRange::noticeBeforeThePreset()
     TypingRig rig;
     rig.begin();
     rig.atNotice();
-    expectNotice(rig.robot);
+    expectRangeNotice(rig.robot);
     go(rig, way);
     QCOMPARE(rig.notices, QStringList(noticedAfterConnect));
     QCOMPARE(rig.range(), QLatin1String(way == SaveShortcut ? "50* to 51*" : "-5.5* to 4*"));
@@ -227,7 +221,7 @@ void TestMainWindowPresetsRange::windowClosesAtTheNotice()
     TypingRig rig;
     rig.begin();
     rig.atNotice([&rig] { rig.window.close(); });
-    expectNotice(rig.robot);
+    expectRangeNotice(rig.robot);
     go(rig, way);
     QCOMPARE(rig.notices, QStringList(noticedAfterConnect));
     QVERIFY(!QFile::exists(rig.newPath()));
@@ -253,7 +247,7 @@ void TestMainWindowPresetsRange::deviceIsLostAtTheNotice()
         lost = rig.comesTo(QStringLiteral("Disconnected from ttyACM0"));
     });
     expectInvalidDevice(rig.robot); // over the notice, and so answered first
-    expectNotice(rig.robot);
+    expectRangeNotice(rig.robot);
     go(rig, way);
     QVERIFY(lost);
     QCOMPARE(rig.notices, QStringList(noticedAfterConnect));

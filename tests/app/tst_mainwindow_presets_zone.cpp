@@ -17,18 +17,6 @@ constexpr auto zoneKey = "timezone";
 const QString loaded = QStringLiteral("Loaded default.bpr");
 const QString notice = QStringLiteral("ALL DATES/TIMES ARE GMT+2:00. IGNORE GMT REMARK BELOW.");
 
-Settings timeAndPresets()
-{
-    Settings settings = presetSettings();
-    settings.insert(QStringLiteral("disabletime"), QStringLiteral("0"));
-    return settings;
-}
-
-PresetTable presetOfZone(const QString& zone)
-{
-    return presetWith(presetOfBasicLogger(), {{QLatin1String(zoneKey), zone}});
-}
-
 void expectUnreachable(DialogRobot& robot, const QString& zone)
 {
     robot.expectWarning(QStringLiteral("Warning"),

@@ -7,6 +7,8 @@
 #include <QDoubleSpinBox>
 #include <QTest>
 
+using namespace WindowWords;
+
 namespace {
 
 struct Range
@@ -29,13 +31,6 @@ LoggerModel loggerWithRange(int min, int max)
     model.settings().tempMin = min;
     model.settings().tempMax = max;
     return model;
-}
-
-void expectNotice(DialogRobot& robot)
-{
-    robot.expectInformation(QStringLiteral("Notice"),
-                            QStringLiteral("Maximum temperature must be at least\n"
-                                           "one degree higher than minimum temperature."));
 }
 
 } // namespace
@@ -171,7 +166,7 @@ void TestMainWindowRange::validatesTypedRange()
     panel.type("spindTempMax", max);
     QCOMPARE(panel.range(), QStringLiteral("-30* to %1*").arg(max));
     if (max != maxAfterwards)
-        expectNotice(rig.robot);
+        expectRangeNotice(rig.robot);
     panel.type("spindTempMin", min);
     QCOMPARE(panel.range(), QStringLiteral("%1* to %2*").arg(min).arg(maxAfterwards));
     QCOMPARE(rig.robot.problems(), QString());
@@ -188,7 +183,7 @@ void TestMainWindowRange::validatesWhenTheBoxIsLeft()
     spin->setFocus();
     spin->selectAll();
     QTest::keyClicks(spin, QStringLiteral("1"));
-    expectNotice(rig.robot);
+    expectRangeNotice(rig.robot);
     rig.find<QWidget>("lineInfo")->setFocus();
     QCOMPARE(panel.range(), QStringLiteral("2.5* to 3.5*"));
     QCOMPARE(rig.robot.problems(), QString());

@@ -34,13 +34,6 @@ bool isKey(Way way)
     return way == ReadKey || way == WriteKey;
 }
 
-void expectNotice(DialogRobot& robot)
-{
-    robot.expectInformation(QStringLiteral("Notice"),
-                            QStringLiteral("Maximum temperature must be at least\n"
-                                           "one degree higher than minimum temperature."));
-}
-
 /// A device that is gone as a read begins.
 void expectLostAtOnce(DialogRobot& robot)
 {
@@ -174,7 +167,7 @@ void TestMainWindowRangeInterruptions::write()
     TypingRig rig;
     rig.begin(typed);
     if (typed.noticed)
-        expectNotice(rig.robot);
+        expectRangeNotice(rig.robot);
     if (!typed.command)
         expectWriteFailed(rig.robot);
     rig.go(way);
@@ -201,7 +194,7 @@ void TestMainWindowRangeInterruptions::read()
     QFETCH(const Way, way);
     TypingRig rig;
     rig.begin();
-    expectNotice(rig.robot);
+    expectRangeNotice(rig.robot);
     rig.go(way);
     QCOMPARE(rig.notices, rig.fittingNotice(way));
     QCOMPARE(rig.range(), QStringLiteral("2.5* to 8*"));
@@ -216,7 +209,7 @@ void TestMainWindowRangeInterruptions::windowClosesAtTheNotice()
     TypingRig rig;
     rig.begin();
     rig.atNotice = [&rig] { rig.window.close(); };
-    expectNotice(rig.robot);
+    expectRangeNotice(rig.robot);
     rig.go(way);
     QCOMPARE(rig.notices, rig.fittingNotice(way));
     QCOMPARE(rig.wire(), QList<QByteArray>());
@@ -229,7 +222,7 @@ void TestMainWindowRangeInterruptions::plugIsPulledAtTheNotice()
     TypingRig rig;
     rig.begin();
     rig.atNotice = [&rig] { rig.unplugAll(); };
-    expectNotice(rig.robot);
+    expectRangeNotice(rig.robot);
     if (isRead(way))
         expectLostAtOnce(rig.robot);
     else
@@ -255,14 +248,14 @@ void TestMainWindowRangeInterruptions::deviceIsInvalidAtTheNotice()
         told = rig.comesTo(isKey(way) ? fetchedServer : leftPort);
     };
     if (isKey(way)) {
-        expectNotice(rig.robot);
+        expectRangeNotice(rig.robot);
         if (isRead(way))
             expectInvalidDevice(rig.robot);
         else
             expectWriteFailed(rig.robot);
     } else {
         expectInvalidDevice(rig.robot); // over the notice, and so answered first
-        expectNotice(rig.robot);
+        expectRangeNotice(rig.robot);
     }
     rig.go(way);
     QVERIFY(told);

@@ -70,6 +70,13 @@ void WindowWords::expectConnectFailed(DialogRobot& robot)
     expectReadIncorrect(robot);
 }
 
+void WindowWords::expectRangeNotice(DialogRobot& robot)
+{
+    robot.expectInformation(QStringLiteral("Notice"),
+                            QStringLiteral("Maximum temperature must be at least\n"
+                                           "one degree higher than minimum temperature."));
+}
+
 void WindowWords::expectWrongPassword(DialogRobot& robot)
 {
     robot.expectWarning(QStringLiteral("Unlock device"), QStringLiteral("Incorrect password."),

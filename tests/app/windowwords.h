@@ -21,6 +21,7 @@ void expectReadIncorrect(DialogRobot& robot);
 /// The same behind the read's own box.
 void expectConnectFailed(DialogRobot& robot);
 
+void expectRangeNotice(DialogRobot& robot);
 void expectWrongPassword(DialogRobot& robot);
 /// The first of two boxes, and both.
 void expectPasswordUnanswered(DialogRobot& robot);
