@@ -16,8 +16,8 @@
 namespace {
 
 constexpr int reads = 15;
-/// The opening pause and the 14 commands of a basic logger, in fast mode.
-constexpr double sumOfWaits = 15 * 75.0;
+/// The opening pause and the 15 commands of a basic logger, in fast mode.
+constexpr double sumOfWaits = 16 * 75.0;
 constexpr double nanosPerMilli = 1e6;
 
 /// A timer of one millisecond, and the longest gap between two of its ticks.
