@@ -84,6 +84,17 @@ public:
     bool ended = false;
 };
 
+/// The same with a logger connected, whose n-th command from then on the query's end meets.
+struct ConnectedPool : PoolRig
+{
+    ConnectedPool(int row, int command)
+        : PoolRig(endingRows[row])
+    {
+        rig.plugAndConnect(secureLogger());
+        endAt(command);
+    }
+};
+
 /// Rows for every command. A time-out with answers enough ends as any answer does; it is left to those
 /// procedures that go by the reference time or have few commands.
 void addRows(const QList<QByteArray>& commands, bool alsoWithHalf)
@@ -136,10 +147,8 @@ void TestMainWindowPoolAnswers::duringRead()
 {
     QFETCH(const int, row);
     QFETCH(const int, command);
-    PoolRig pool(endingRows[row]);
+    ConnectedPool pool(row, command);
     TimeRig& rig = pool.rig;
-    rig.plugAndConnect(secureLogger());
-    pool.endAt(command);
     rig.press("buttonRead");
     QVERIFY(pool.ended);
     QCOMPARE(rig.wire(), extendedReadCommands());
@@ -154,10 +163,8 @@ void TestMainWindowPoolAnswers::duringWrite()
 {
     QFETCH(const int, row);
     QFETCH(const int, command);
-    PoolRig pool(endingRows[row]);
+    ConnectedPool pool(row, command);
     TimeRig& rig = pool.rig;
-    rig.plugAndConnect(secureLogger());
-    pool.endAt(command);
     rig.press("buttonWrite");
     QVERIFY(pool.ended);
     QList<QByteArray> expected = extendedWriteCommands();
@@ -174,11 +181,9 @@ void TestMainWindowPoolAnswers::duringStart()
 {
     QFETCH(const int, row);
     QFETCH(const int, command);
-    PoolRig pool(endingRows[row]);
+    ConnectedPool pool(row, command);
     TimeRig& rig = pool.rig;
-    rig.plugAndConnect(secureLogger());
     expectStartConfirm(rig.robot, Yes);
-    pool.endAt(command);
     rig.press("buttonStart");
     QVERIFY(pool.ended);
     QCOMPARE(rig.wire(), QList<QByteArray>({"Go", "a"}));
