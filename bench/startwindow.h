@@ -5,11 +5,14 @@
 #include <QTimer>
 #include <QWidget>
 
-/// Ends the program once a window has been painted for the first time.
-class QuitAfterFirstPaint : public QObject
+#include <cstdlib>
+
+/// Ends the program once a window has been painted for the first time, and there: taking the window down is
+/// not a part of the start.
+class ExitAfterFirstPaint : public QObject
 {
 public:
-    explicit QuitAfterFirstPaint(QWidget* window)
+    explicit ExitAfterFirstPaint(QWidget* window)
         : QObject(window)
     {
         window->installEventFilter(this);
@@ -18,7 +21,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (event->type() == QEvent::Paint)
-            QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+            QTimer::singleShot(0, this, [] { std::_Exit(EXIT_SUCCESS); });
         return QObject::eventFilter(watched, event);
     }
 };
@@ -29,7 +32,7 @@ int runUntilFirstPaint(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     Window window;
-    new QuitAfterFirstPaint(&window);
+    new ExitAfterFirstPaint(&window);
     window.show();
     return QApplication::exec();
 }

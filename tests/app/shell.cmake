@@ -14,6 +14,7 @@ target_link_libraries(brumalogger_prompttests PUBLIC
   brumalogger_webtests
 )
 
+brumalogger_add_test(tst_buttonicon SOURCES tst_buttonicon.cpp LINK brumalogger_proceduretests)
 brumalogger_add_test(tst_devicetext SOURCES tst_devicetext.cpp LINK brumalogger_app)
 brumalogger_add_test(tst_stepprogress SOURCES tst_stepprogress.cpp LINK brumalogger_app X11)
 foreach(concern form layout shell changes copying guide texts zone about)
