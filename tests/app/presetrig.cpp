@@ -2,6 +2,8 @@
 
 #include "presetrig.h"
 
+#include "presetfiles.h"
+
 #include "dialogs/advancedoptionsdialog.h"
 #include "presets/presetstorage.h"
 
@@ -13,10 +15,6 @@
 #include <QTextStream>
 
 namespace {
-
-constexpr const char* presetKeys[] = {
-    "mintemp", "maxtemp",    "samplet",  "startdl",  "timezone",     "sender",    "recipient",   "info",
-    "type",    "buttonlock", "policies", "password", "startdate_en", "startdate", "stopdate_en", "stopdate"};
 
 using DateGetter = void (AdvancedOptionsDialog::*)(bool*, QDateTime*) const;
 
@@ -33,23 +31,16 @@ QString dateOf(const WindowRig& rig, DateGetter getter)
 
 PresetTable presetIn(const QString& path)
 {
-    PresetStorage storage(nullptr);
-    if (!storage.load(path))
+    const QByteArrayList lines = PresetFiles::deciphered(PresetFiles::read(path));
+    if (lines.isEmpty())
         qFatal("%s can't be read", qPrintable(path));
-    PresetTable table;
-    for (const char* name : presetKeys) {
-        const QString key = QLatin1String(name);
-        if (storage.contains(key))
-            table.insert(key, storage.value(key));
-    }
-    return table;
+    return PresetFiles::entries(lines.at(1));
 }
 
 void writePreset(const QString& path, const PresetTable& table)
 {
     PresetStorage storage(nullptr);
-    for (auto entry = table.cbegin(); entry != table.cend(); ++entry)
-        storage.setValue(entry.key(), entry.value());
+    PresetFiles::fill(&storage, table);
     if (!storage.save(path))
         qFatal("%s can't be written", qPrintable(path));
 }

@@ -12,7 +12,7 @@ class AdvancedOptionsDialog;
 using PresetTable = QMap<QString, QString>;
 Q_DECLARE_METATYPE(PresetTable)
 
-/// The table of a preset file; the test program ends if it can't be read or has a key that no preset has.
+/// The whole table of a version 2.0 file; the test program ends if it can't be read.
 PresetTable presetIn(const QString& path);
 /// A file of the version that is written now.
 void writePreset(const QString& path, const PresetTable& table);

@@ -1,6 +1,7 @@
 // The policies word and the automatic dates, as read and as written.
 
 #include "devicerig.h"
+#include "storedfields.h"
 
 #include "support/loglines.h"
 #include "support/testclock.h"
@@ -117,11 +118,15 @@ void TestBrumaloggerInterfacePolicies::readWordFails_data()
 void TestBrumaloggerInterfacePolicies::readWordFails()
 {
     QFETCH(QByteArray, reply);
+    rig->reply("8195");
+    QVERIFY(rig->link.lGetPolicies(nullptr));
+    QCOMPARE(rig->link.*policiesField(), 8195);
     rig->reply(reply);
     const LogLines log;
     int read = 1234;
     QVERIFY(!rig->link.lGetPolicies(&read));
     QCOMPARE(read, 1234);
+    QCOMPARE(rig->link.*policiesField(), reply.trimmed().isEmpty() ? 8195 : 0);
     QCOMPARE(log.all(), QStringList());
 }
 
@@ -144,7 +149,7 @@ void TestBrumaloggerInterfacePolicies::writtenWord()
     QFETCH(int, logged);
     rig->reply("ok");
     const LogLines log;
-    QVERIFY(rig->link.lSetPolicies(static_cast<quint16>(word)));
+    QVERIFY(rig->link.lSetPolicies(word));
     QCOMPARE(rig->wire(), QList<QByteArray>({bytes}));
     QCOMPARE(log.all(), QStringList({QStringLiteral("debug: Writing policies: %1").arg(logged)}));
 }

@@ -1,6 +1,7 @@
 // Text slots, the password lock and the password, the logger's state and its battery.
 
 #include "devicerig.h"
+#include "storedfields.h"
 
 #include "support/loglines.h"
 #include "support/testclock.h"
@@ -81,12 +82,15 @@ void TestBrumaloggerInterfaceSecurity::readText()
     QString read(QStringLiteral("before"));
     QVERIFY(rig->link.lGetText(2, &read));
     QCOMPARE(read, text);
+    QCOMPARE((rig->link.*textsField()).value(2, QStringLiteral("not stored")), text);
 }
 
 void TestBrumaloggerInterfaceSecurity::readTextWithoutPointer()
 {
+    rig->reply("B1234");
     QVERIFY(rig->link.lGetText(4, nullptr));
     QCOMPARE(rig->wire(), QList<QByteArray>({"G4"}));
+    QCOMPARE((rig->link.*textsField()).value(4), QStringLiteral("B1234"));
 }
 
 void TestBrumaloggerInterfaceSecurity::readTextStaysOnSilence()
@@ -95,6 +99,7 @@ void TestBrumaloggerInterfaceSecurity::readTextStaysOnSilence()
     QString read(QStringLiteral("before"));
     QVERIFY(!rig->link.lGetText(0, &read));
     QCOMPARE(read, QStringLiteral("before"));
+    QVERIFY(!(rig->link.*textsField()).contains(0));
 }
 
 void TestBrumaloggerInterfaceSecurity::refusedSlotTouchesNothing()
@@ -102,6 +107,7 @@ void TestBrumaloggerInterfaceSecurity::refusedSlotTouchesNothing()
     QString read(QStringLiteral("before"));
     QVERIFY(!rig->link.lGetText(5, &read));
     QCOMPARE(read, QStringLiteral("before"));
+    QVERIFY(!(rig->link.*textsField()).contains(5));
     QCOMPARE(rig->wire(), QList<QByteArray>());
 }
 

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QTest>
 
@@ -73,6 +74,8 @@ void TestSettingsDialogFile::missingKeys()
     SettingsDesk desk({{key("language"), key("en_us")}});
     desk.check("checkPreset");
     desk.find<QLineEdit>("lineFilename")->setText(key("old"));
+    desk.choose("comboServerList", 3);
+    desk.check("checkDisableFast");
     QVERIFY(desk.dialog.loadSettings());
     QCOMPARE(desk.summary(),
              QStringLiteral("no preset, \"\", no time, pool, fast, %1 pt, time.google.com, 0x0")
@@ -210,9 +213,11 @@ void TestSettingsDialogFile::closingByTheFrameIsACancel()
     SettingsDesk desk({{key("fontsize"), key("17")}});
     desk.open();
     desk.find<QSpinBox>("spinFont")->setValue(20);
+    const QSignalSpy rejections(&desk.dialog, &QDialog::rejected);
     QVERIFY(desk.dialog.close());
     QVERIFY(!desk.dialog.isVisible());
     QCOMPARE(desk.dialog.result(), int(QDialog::Rejected));
+    QCOMPARE(rejections.count(), 0); // no more than hiding
     QCOMPARE(WorkFolder::configuration(), Settings({{key("fontsize"), key("17")}}));
 }
 

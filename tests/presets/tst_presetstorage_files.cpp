@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QRandomGenerator>
 #include <QTest>
 
@@ -49,6 +50,7 @@ private slots:
     void whatCantBeWrittenIsLeftAsItWas_data();
     void whatCantBeWrittenIsLeftAsItWas();
     void writeProtectedFile();
+    void programThatRuns();
     void longerFileIsReplaced();
     void failedWritingIsNotNoticed();
 };
@@ -188,6 +190,24 @@ void TestPresetStorageFiles::writeProtectedFile()
     QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
     QCOMPARE(PresetStorage().save(path), !permissionsBind());
     QCOMPARE(read(path) == "as it was", permissionsBind());
+}
+
+// The system lets nobody open it for writing, whoever asks.
+void TestPresetStorageFiles::programThatRuns()
+{
+    const Folder folder;
+    const QString path = folder.path("preset");
+    QVERIFY(QFile::copy("/bin/sleep", path));
+    const QByteArray before = read(path);
+    QProcess running;
+    running.start(path, {"600"});
+    QVERIFY(running.waitForStarted());
+    const LogLines log;
+    QVERIFY(!PresetStorage().save(path));
+    QCOMPARE(log.all(), QStringList());
+    QCOMPARE(read(path), before);
+    running.kill();
+    QVERIFY(running.waitForFinished());
 }
 
 void TestPresetStorageFiles::longerFileIsReplaced()

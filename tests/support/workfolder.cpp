@@ -2,6 +2,8 @@
 
 #include "support/workfolder.h"
 
+#include "presetfiles.h"
+
 #include "presets/presetstorage.h"
 
 #include <QDir>
@@ -12,14 +14,10 @@ namespace {
 
 const QString configurationName = QStringLiteral("blconf");
 
-constexpr const char* keys[] = {"fontsize",      "preseten",    "presetpath", "timeserver", "disabletime",
-                                "useserverpool", "disablefast", "language",   "winwidth",   "winheight"};
-
 void writeConfiguration(const Settings& settings)
 {
     PresetStorage storage(nullptr);
-    for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting)
-        storage.setValue(setting.key(), setting.value());
+    PresetFiles::fill(&storage, settings);
     if (!storage.save(configurationName))
         qFatal("the configuration could not be written");
 }
@@ -57,14 +55,5 @@ WorkFolder::~WorkFolder()
 
 Settings WorkFolder::configuration()
 {
-    PresetStorage storage(nullptr);
-    Settings settings;
-    if (!storage.load(configurationName))
-        return settings;
-    for (const char* name : keys) {
-        const QString key = QLatin1String(name);
-        if (storage.contains(key))
-            settings.insert(key, storage.value(key));
-    }
-    return settings;
+    return PresetFiles::entries(PresetFiles::deciphered(PresetFiles::read(configurationName)).value(1));
 }

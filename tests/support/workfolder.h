@@ -23,7 +23,7 @@ public:
     WorkFolder(const WorkFolder&) = delete;
     WorkFolder& operator=(const WorkFolder&) = delete;
 
-    /// What the configuration file in the current folder holds now; empty if there is none.
+    /// All that the configuration file in the current folder holds now; empty if there is none.
     static Settings configuration();
 
 private:
