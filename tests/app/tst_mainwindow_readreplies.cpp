@@ -71,6 +71,10 @@ void TestMainWindowReadReplies::makesDoWith_data()
     row("an empty text", "G1", "\r\n", {"lineRecipient = "});
     row("a text with accents", "G1", "Çà ñ Œ\r\n", {"lineRecipient = Ca n OE"});
     row("a text in another script", "G1", "Больница\r\n", {"lineRecipient = Больница"});
+    row("a text with a blank before a NUL byte", "G0", QByteArray("Southern \0x\r\n", 13),
+        {"lineSender = Southern"});
+    row("a text among no-break spaces", "G2", "\u00a0Batch 8\u00a0\r\n", {"lineInfo = Batch 8"});
+    row("a barcode among no-break spaces", "G4", "\u00a0B5678\u00a0\r\n", {"lineBarcode = B5678"});
     row("an unknown shipment type", "G3", "Rail\r\n", {"comboType =  "});
     row("a shipment type in other case", "G3", "land\r\n", {"comboType =  "});
     row("no shipment type", "G3", " \r\n", {"comboType =  "});
