@@ -1,5 +1,6 @@
 // Reading from the logger: the order of things, where each value goes, what is asked and shown on the way.
 
+#include "markingtranslator.h"
 #include "procedurerig.h"
 #include "progresswatch.h"
 #include "windowstate.h"
@@ -19,6 +20,7 @@ private slots:
     void readsByKeys();
     void fillsEveryPlace();
     void readsWhatHasChanged();
+    void typeIsNotTranslated();
     void showsDeviceClock();
     void judgesFirmware_data();
     void judgesFirmware();
@@ -94,6 +96,19 @@ void TestMainWindowRead::readsWhatHasChanged()
     for (const char* name : {"spinSampling", "spinDelay", "spindTempMin", "spindTempMax"})
         QVERIFY2(rig.isEnabled(name), name);
     QCOMPARE(differences(rig, idle(QStringLiteral("Read successful"), false)), QString());
+}
+
+void TestMainWindowRead::typeIsNotTranslated()
+{
+    const MarkingTranslator translator;
+    ProcedureRig rig;
+    rig.plugAndConnect();
+    QCOMPARE(rig.text("labelType"), QStringLiteral("Single-use"));
+    rig.logger->model().settings().multiuse = true;
+    rig.press("buttonRead");
+    QCOMPARE(rig.text("labelType"), QStringLiteral("Multiuse"));
+    QCOMPARE(rig.status(), QStringLiteral("<Read successful>"));
+    QCOMPARE(rig.robot.problems(), QString());
 }
 
 // Looked at when the next command is out: from then on the clock ticks.
