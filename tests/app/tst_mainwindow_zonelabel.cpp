@@ -41,6 +41,7 @@ private slots:
     void zoneOfTheDevicesClock();
     void zoneIsHiddenWithoutReferenceTime();
     void zoneIsHiddenWithTimeConfigurationOff();
+    void zoneIsHiddenWhenTheClockFitsNone();
     void editorNeedsADeviceAndReferenceTime();
     void answerDuringAReadTouchesNoControls();
     void answerWithoutADevice();
@@ -102,9 +103,24 @@ void TestMainWindowZoneLabel::zoneIsHiddenWithTimeConfigurationOff()
     rig.plugAndConnect(loggerAhead(7200));
     rig.dialog->accept();
     QCOMPARE(rig.zone(), QStringLiteral("GMT+2:00, label, button"));
+    QCOMPARE(currentZone(rig.window), QStringLiteral("GMT+2:00"));
     rig.check("checkDisableTime", true);
     rig.dialog->accept();
     QCOMPARE(rig.zone(), QStringLiteral("disabled button"));
+    QCOMPARE(currentZone(rig.window), QStringLiteral("GMT"));
+}
+
+void TestMainWindowZoneLabel::zoneIsHiddenWhenTheClockFitsNone()
+{
+    SynchronisedRig synchronised(loggerAhead(7200));
+    TimeRig& rig = synchronised.rig;
+    QCOMPARE(rig.zone(), QStringLiteral("GMT+2:00, label, button"));
+    QCOMPARE(currentZone(rig.window), QStringLiteral("GMT+2:00"));
+    rig.logger->model() = loggerAhead(3 * 86400);
+    rig.press("buttonRead");
+    QCOMPARE(rig.zone(), QStringLiteral("button"));
+    QCOMPARE(currentZone(rig.window), QStringLiteral("GMT"));
+    QCOMPARE(rig.robot.problems(), QString());
 }
 
 void TestMainWindowZoneLabel::editorNeedsADeviceAndReferenceTime()
