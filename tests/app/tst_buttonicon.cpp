@@ -36,7 +36,7 @@ void TestButtonIcon::size_data()
 {
     QTest::addColumn<QSize>("shown");
     QTest::addColumn<QSize>("unpacked");
-    QTest::newRow("usual") << QSize(16, 16) << QSize(48, 48);
+    QTest::newRow("usual") << QSize(24, 24) << QSize(48, 48);
     QTest::newRow("largest small") << QSize(48, 48) << QSize(48, 48);
     QTest::newRow("a little wider") << QSize(49, 48) << QSize(408, 409);
     QTest::newRow("a little higher") << QSize(48, 49) << QSize(408, 409);
