@@ -27,7 +27,7 @@ ProcedureRig::ProcedureRig(const Settings& settings)
     : WindowRig(settings)
 {
     QObject::connect(find<QStatusBar>("statusBar"), &QStatusBar::messageChanged, &window,
-                     [this](const QString& message) { statusLog << message; });
+                     [this] { statusLog << status(); });
 }
 
 SimulatedPort* ProcedureRig::plug(const LoggerModel& model, const UsbIdentity& identity)

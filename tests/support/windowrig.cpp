@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
+#include <QTimer>
 
 namespace {
 
@@ -59,7 +60,10 @@ void WindowRig::press(const char* buttonName) const
 
 QString WindowRig::status() const
 {
-    return find<QStatusBar>("statusBar")->currentMessage();
+    const auto* bar = find<QStatusBar>("statusBar");
+    // The bar has a timer of its own for a message with a time-out, and only then.
+    const bool stays = bar->findChildren<QTimer*>().isEmpty();
+    return bar->currentMessage() + QLatin1String(stays ? "" : " (soon to vanish)");
 }
 
 QString WindowRig::text(const char* name) const

@@ -42,6 +42,7 @@ public:
 
     /// Presses a button of the window and returns when all that it set off is over.
     void press(const char* buttonName) const;
+    /// What the status bar says, and if so, that it will not say it for long.
     QString status() const;
     QString title() const { return window.windowTitle(); }
     bool isModified() const { return title().endsWith(QLatin1Char('*')); }
