@@ -7,10 +7,10 @@
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QRandomGenerator>
 #include <QTest>
 
+#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace PresetFiles;
@@ -31,6 +31,24 @@ bool permissionsBind()
     return geteuid() != 0;
 }
 
+/// As long as it lives, the process can open no file.
+class NoMoreFiles
+{
+public:
+    NoMoreFiles()
+    {
+        getrlimit(RLIMIT_NOFILE, &before);
+        const rlimit none = {0, before.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &none);
+    }
+    ~NoMoreFiles() { setrlimit(RLIMIT_NOFILE, &before); }
+    NoMoreFiles(const NoMoreFiles&) = delete;
+    NoMoreFiles& operator=(const NoMoreFiles&) = delete;
+
+private:
+    rlimit before{};
+};
+
 } // namespace
 
 class TestPresetStorageFiles : public QObject
@@ -50,7 +68,7 @@ private slots:
     void whatCantBeWrittenIsLeftAsItWas_data();
     void whatCantBeWrittenIsLeftAsItWas();
     void writeProtectedFile();
-    void programThatRuns();
+    void whileNoFileCanBeOpened();
     void longerFileIsReplaced();
     void failedWritingIsNotNoticed();
 };
@@ -192,22 +210,23 @@ void TestPresetStorageFiles::writeProtectedFile()
     QCOMPARE(read(path) == "as it was", permissionsBind());
 }
 
-// The system lets nobody open it for writing, whoever asks.
-void TestPresetStorageFiles::programThatRuns()
+// Unlike permissions, this binds everybody.
+void TestPresetStorageFiles::whileNoFileCanBeOpened()
 {
     const Folder folder;
-    const QString path = folder.path("preset");
-    QVERIFY(QFile::copy("/bin/sleep", path));
-    const QByteArray before = read(path);
-    QProcess running;
-    running.start(path, {"600"});
-    QVERIFY(running.waitForStarted());
+    const QByteArray before = "1.0\na=1\n";
+    const QString path = folder.file(before);
+    PresetStorage storage;
+    storage.setValue("a", "old");
     const LogLines log;
-    QVERIFY(!PresetStorage().save(path));
+    {
+        const NoMoreFiles noMoreFiles;
+        QVERIFY(!storage.load(path));
+        QVERIFY(!storage.save(path));
+    }
     QCOMPARE(log.all(), QStringList());
     QCOMPARE(read(path), before);
-    running.kill();
-    QVERIFY(running.waitForFinished());
+    QCOMPARE(contents(storage), Table({{"a", "old"}}));
 }
 
 void TestPresetStorageFiles::longerFileIsReplaced()
