@@ -25,8 +25,9 @@ Table presetOfEverything()
         {"startdate", "08:15:00 24/12/2021"},
         {"startdate_en", "1"},
         {"startdl", "900"},
-        {"stopdate_en", "0"},
-        {"timezone", "(UTC+01:00) Amsterdam, Berlin"},
+        {"stopdate", "18:30:00 06/01/2022"},
+        {"stopdate_en", "1"},
+        {"timezone", "GMT+1:00"},
         {"type", " "},
     };
 }
