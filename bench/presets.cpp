@@ -1,8 +1,8 @@
-// Saving and loading a table of about SIZE bytes, or nothing but what that can't do without on the same data:
-// bare is compression, checksum, Base64 and hash; least-load, also the file as text, its log lines and the
-// map.
+// Saving and loading a table of about SIZE bytes, or parts of that on the same data: compression, checksum,
+// Base64 and hash alone (bare), and these with the file read line by line as text, the log lines and the
+// filling of a map (plain).
 //
-//   bench_presets save|load|bare-save|bare-load|least-load SIZE ENTRY-SIZE
+//   bench_presets save|load|bare-save|bare-load|plain-load SIZE ENTRY-SIZE
 //
 // Only measuredWork() counts: run it under callgrind with --toggle-collect=measuredWork.
 
@@ -139,7 +139,7 @@ int main(int argc, char** argv)
         work = [&](PresetStorage*) {
             keep += bareEncipher(body).size() + bareEncipher(digest).size() + hash(body).size();
         };
-    else if (what == "bare-load" || what == "least-load")
+    else if (what == "bare-load" || what == "plain-load")
         work = [&](PresetStorage*) {
             keep += hash(bareDecipher(bodyText)).size() + bareDecipher(digestText).size();
             if (what == "bare-load")

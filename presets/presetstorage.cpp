@@ -14,8 +14,8 @@
 
 namespace {
 
-// The key of all preset and configuration files, in two halves; the program holds it in no other form. Builds
-// that are to share files must keep it: with another one, every file that users have is refused.
+// The key of all preset and configuration files, in two halves that the constructor joins. Builds that are to
+// share files must keep it: with another one, every file that users have is refused.
 constexpr quint32 fileKeyLow = 0x5A3C96E1;
 constexpr quint32 fileKeyHigh = 0xB7D2084F;
 

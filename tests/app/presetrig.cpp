@@ -31,10 +31,10 @@ QString dateOf(const WindowRig& rig, DateGetter getter)
 
 PresetTable presetIn(const QString& path)
 {
-    const QByteArrayList lines = PresetFiles::deciphered(PresetFiles::read(path));
-    if (lines.isEmpty())
+    const std::optional<PresetTable> table = PresetFiles::savedTable(path);
+    if (!table)
         qFatal("%s can't be read", qPrintable(path));
-    return PresetFiles::entries(lines.at(1));
+    return *table;
 }
 
 void writePreset(const QString& path, const PresetTable& table)

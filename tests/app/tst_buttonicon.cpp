@@ -55,7 +55,7 @@ void TestButtonIcon::drawing_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<int>("width");
     for (const char* image : images) {
-        for (const int width : {16, 32, 48, 64})
+        for (const int width : {24, 32, 48, 64})
             QTest::addRow("%s at %d", image, width) << image << width;
     }
 }

@@ -53,6 +53,14 @@ PresetFiles::Table PresetFiles::entries(const QByteArray& body)
     return table;
 }
 
+std::optional<PresetFiles::Table> PresetFiles::savedTable(const QString& path)
+{
+    const QByteArrayList lines = deciphered(read(path));
+    if (lines.isEmpty() || lines.at(0) != "2.0" || lines.at(2) != digestText(lines.at(1)).toUtf8())
+        return std::nullopt;
+    return entries(lines.at(1));
+}
+
 PresetFiles::Table PresetFiles::contents(PresetStorage& storage)
 {
     static const Folder folder; // one for all, as tests ask often

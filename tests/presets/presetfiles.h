@@ -8,6 +8,8 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include <optional>
+
 class PresetStorage;
 
 /// Files for a PresetStorage to read, made without its code, and a look into the files that it wrote.
@@ -27,6 +29,9 @@ QByteArray enciphered(const QByteArray& body);
 
 /// The plain lines of a file of version 2.0: version, body and digest; empty if the file is not one.
 QByteArrayList deciphered(const QByteArray& file);
+/// The table of the file at @p path; none if it isn't of version 2.0 with the right digest. The conditions of
+/// entries() hold.
+std::optional<Table> savedTable(const QString& path);
 /// The entries of a body that has no "=" and no line feed in a key, and no line feed in a value.
 Table entries(const QByteArray& body);
 

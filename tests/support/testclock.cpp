@@ -79,6 +79,7 @@ void TestClock::set(qint64 msecs)
 void TestClock::ignoreStalls()
 {
     theClock().lastReading = realMicros();
+    theClock().spinningSince = theClock().lastReading;
     theClock().stallsIgnored = true;
     set(QDateTime(QDate::currentDate(), QTime(12, 0)).toMSecsSinceEpoch());
 }

@@ -55,5 +55,5 @@ WorkFolder::~WorkFolder()
 
 Settings WorkFolder::configuration()
 {
-    return PresetFiles::entries(PresetFiles::deciphered(PresetFiles::read(configurationName)).value(1));
+    return PresetFiles::savedTable(configurationName).value_or(Settings());
 }
