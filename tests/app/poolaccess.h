@@ -1,36 +1,38 @@
 #pragma once
 
 #include "app/mainwindow.h"
+#include "support/privatemember.h"
 #include "time/timemanager.h"
 
-// The ten seconds that a pool has to answer can't be waited for at every exchange of a test. As in
-// zoneaccess.h, an explicit instantiation leads to the timers.
+// The ten seconds that a pool has to answer can't be waited for at every exchange of a test.
 
-using TimeManagerMember = QSharedPointer<TimeManager> MainWindow::*;
-using PoolWorkersMember = QList<TimePoolWorker*> TimeManager::*;
-using TimeoutTimerMember = QTimer TimePoolWorker::*;
-
-TimeManagerMember timeManagerMember();
-PoolWorkersMember poolWorkersMember();
-TimeoutTimerMember timeoutTimerMember();
-
-template<TimeManagerMember managerMember, PoolWorkersMember workersMember, TimeoutTimerMember timerMember>
-struct PoolAccess
+struct WindowTimeManager
 {
-    friend TimeManagerMember timeManagerMember() { return managerMember; }
-    friend PoolWorkersMember poolWorkersMember() { return workersMember; }
-    friend TimeoutTimerMember timeoutTimerMember() { return timerMember; }
+    using Member = QSharedPointer<TimeManager> MainWindow::*;
+    friend Member memberOf(WindowTimeManager);
 };
+template struct PrivateMember<WindowTimeManager, &MainWindow::timeManager>;
 
-template struct PoolAccess<&MainWindow::timeManager, &TimeManager::poolWorkers,
-                           &TimePoolWorker::timeoutTimer>;
+struct PoolWorkers
+{
+    using Member = QList<TimePoolWorker*> TimeManager::*;
+    friend Member memberOf(PoolWorkers);
+};
+template struct PrivateMember<PoolWorkers, &TimeManager::poolWorkers>;
+
+struct TimeoutTimer
+{
+    using Member = QTimer TimePoolWorker::*;
+    friend Member memberOf(TimeoutTimer);
+};
+template struct PrivateMember<TimeoutTimer, &TimePoolWorker::timeoutTimer>;
 
 /// The time of each server of the pool that has not answered yet is over at the next turn of the event loop.
 inline void endPoolPatience(MainWindow& window)
 {
-    const QSharedPointer<TimeManager>& manager = window.*timeManagerMember();
-    for (TimePoolWorker* worker : (*manager).*poolWorkersMember()) {
-        QTimer& timer = worker->*timeoutTimerMember();
+    const QSharedPointer<TimeManager>& manager = window.*memberOf(WindowTimeManager());
+    for (TimePoolWorker* worker : (*manager).*memberOf(PoolWorkers())) {
+        QTimer& timer = worker->*memberOf(TimeoutTimer());
         if (timer.isActive())
             timer.start(0);
     }

@@ -3,6 +3,7 @@
 #include "network/webfolder.h"
 #include "procedurerig.h"
 #include "support/browser.h"
+#include "support/privatemember.h"
 #include "update/filedownloader.h"
 #include "update/updatechecker.h"
 #include "windowstate.h"
@@ -15,19 +16,13 @@
 using namespace WindowWords;
 
 // The answer may come while the window is still on its way to the screen, and no signal can be awaited then.
-// What is under way hangs on the network manager, to which an explicit instantiation leads as in
-// poolaccess.h.
-using NetworkManagerMember = QNetworkAccessManager FileDownloader::*;
-
-NetworkManagerMember networkManagerMember();
-
-template<NetworkManagerMember member>
-struct NetworkManagerAccess
+// What is under way hangs on the network manager.
+struct NetworkManager
 {
-    friend NetworkManagerMember networkManagerMember() { return member; }
+    using Member = QNetworkAccessManager FileDownloader::*;
+    friend Member memberOf(NetworkManager);
 };
-
-template struct NetworkManagerAccess<&FileDownloader::networkManager>;
+template struct PrivateMember<NetworkManager, &FileDownloader::networkManager>;
 
 namespace {
 
@@ -35,7 +30,7 @@ namespace {
 bool checked(const ProcedureRig& rig)
 {
     auto* downloader = rig.window.findChild<UpdateChecker*>()->findChild<FileDownloader*>();
-    const QNetworkAccessManager& manager = downloader->*networkManagerMember();
+    const QNetworkAccessManager& manager = downloader->*memberOf(NetworkManager());
     return QTest::qWaitFor([&manager] { return manager.findChildren<QNetworkReply*>().isEmpty(); });
 }
 

@@ -1,32 +1,30 @@
 #pragma once
 
 #include "app/mainwindow.h"
+#include "support/privatemember.h"
 
-// Adopting a zone is private to the window, and so is the name of the adopted one. An explicit instantiation
-// may name private members: that is the one place where the language does not look at access, and the window
-// needs neither a friend nor a public operation for the tests' sake.
+// Adopting a zone is private to the window, and so is the name of the adopted one.
 
-using SetZoneMember = void (MainWindow::*)(const QString& name);
-using ZoneNameMember = QString MainWindow::*;
-
-SetZoneMember setZoneMember();
-ZoneNameMember zoneNameMember();
-
-template<SetZoneMember setMember, ZoneNameMember nameMember>
-struct ZoneAccess
+struct SetTimeZone
 {
-    friend SetZoneMember setZoneMember() { return setMember; }
-    friend ZoneNameMember zoneNameMember() { return nameMember; }
+    using Member = void (MainWindow::*)(const QString& name);
+    friend Member memberOf(SetTimeZone);
 };
+template struct PrivateMember<SetTimeZone, &MainWindow::plSetTimeZone>;
 
-template struct ZoneAccess<&MainWindow::plSetTimeZone, &MainWindow::currentTimeZoneName>;
+struct CurrentTimeZoneName
+{
+    using Member = QString MainWindow::*;
+    friend Member memberOf(CurrentTimeZoneName);
+};
+template struct PrivateMember<CurrentTimeZoneName, &MainWindow::currentTimeZoneName>;
 
 inline void setZone(MainWindow& window, const QString& name)
 {
-    (window.*setZoneMember())(name);
+    (window.*memberOf(SetTimeZone()))(name);
 }
 
 inline QString currentZone(const MainWindow& window)
 {
-    return window.*zoneNameMember();
+    return window.*memberOf(CurrentTimeZoneName());
 }

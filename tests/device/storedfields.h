@@ -1,25 +1,27 @@
 #pragma once
 
 #include "device/brumaloggerinterface.h"
+#include "support/privatemember.h"
 
-// The link keeps what it read also where no operation hands it out again. As in exchangeaccess.h, an explicit
-// instantiation leads to these fields.
+// The link keeps what it read also where no operation hands it out again.
 
-using PoliciesField = int BrumaloggerInterface::*;
-using SerialNumberField = QString BrumaloggerInterface::*;
-using TextsField = QHash<unsigned int, QString> BrumaloggerInterface::*;
-
-PoliciesField policiesField();
-SerialNumberField serialNumberField();
-TextsField textsField();
-
-template<PoliciesField policies, SerialNumberField serialNumber, TextsField texts>
-struct StoredFields
+struct Policies
 {
-    friend PoliciesField policiesField() { return policies; }
-    friend SerialNumberField serialNumberField() { return serialNumber; }
-    friend TextsField textsField() { return texts; }
+    using Member = int BrumaloggerInterface::*;
+    friend Member memberOf(Policies);
 };
+template struct PrivateMember<Policies, &BrumaloggerInterface::policies>;
 
-template struct StoredFields<&BrumaloggerInterface::policies, &BrumaloggerInterface::serialNumber,
-                             &BrumaloggerInterface::texts>;
+struct SerialNumber
+{
+    using Member = QString BrumaloggerInterface::*;
+    friend Member memberOf(SerialNumber);
+};
+template struct PrivateMember<SerialNumber, &BrumaloggerInterface::serialNumber>;
+
+struct Texts
+{
+    using Member = QHash<unsigned int, QString> BrumaloggerInterface::*;
+    friend Member memberOf(Texts);
+};
+template struct PrivateMember<Texts, &BrumaloggerInterface::texts>;

@@ -162,10 +162,10 @@ void TestBrumaloggerInterfaceIdentity::serial()
     rig->reply("BL-0042, rev. 2\r\n");
     QVERIFY(rig->link.lGetSerial(&serial));
     QCOMPARE(serial, QStringLiteral("BL-0042, rev. 2"));
-    QCOMPARE(rig->link.*serialNumberField(), serial);
+    QCOMPARE(rig->link.*memberOf(SerialNumber()), serial);
     rig->reply("BL-0043");
     QVERIFY(rig->link.lGetSerial(nullptr));
-    QCOMPARE(rig->link.*serialNumberField(), QStringLiteral("BL-0043"));
+    QCOMPARE(rig->link.*memberOf(SerialNumber()), QStringLiteral("BL-0043"));
     rig->reply("\r\n");
     QVERIFY(rig->link.lGetSerial(&serial));
     QCOMPARE(serial, QString());

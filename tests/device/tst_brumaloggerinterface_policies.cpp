@@ -120,13 +120,13 @@ void TestBrumaloggerInterfacePolicies::readWordFails()
     QFETCH(QByteArray, reply);
     rig->reply("8195");
     QVERIFY(rig->link.lGetPolicies(nullptr));
-    QCOMPARE(rig->link.*policiesField(), 8195);
+    QCOMPARE(rig->link.*memberOf(Policies()), 8195);
     rig->reply(reply);
     const LogLines log;
     int read = 1234;
     QVERIFY(!rig->link.lGetPolicies(&read));
     QCOMPARE(read, 1234);
-    QCOMPARE(rig->link.*policiesField(), reply.trimmed().isEmpty() ? 8195 : 0);
+    QCOMPARE(rig->link.*memberOf(Policies()), reply.trimmed().isEmpty() ? 8195 : 0);
     QCOMPARE(log.all(), QStringList());
 }
 

@@ -82,7 +82,7 @@ void TestBrumaloggerInterfaceSecurity::readText()
     QString read(QStringLiteral("before"));
     QVERIFY(rig->link.lGetText(2, &read));
     QCOMPARE(read, text);
-    QCOMPARE((rig->link.*textsField()).value(2, QStringLiteral("not stored")), text);
+    QCOMPARE((rig->link.*memberOf(Texts())).value(2, QStringLiteral("not stored")), text);
 }
 
 void TestBrumaloggerInterfaceSecurity::readTextWithoutPointer()
@@ -90,7 +90,7 @@ void TestBrumaloggerInterfaceSecurity::readTextWithoutPointer()
     rig->reply("B1234");
     QVERIFY(rig->link.lGetText(4, nullptr));
     QCOMPARE(rig->wire(), QList<QByteArray>({"G4"}));
-    QCOMPARE((rig->link.*textsField()).value(4), QStringLiteral("B1234"));
+    QCOMPARE((rig->link.*memberOf(Texts())).value(4), QStringLiteral("B1234"));
 }
 
 void TestBrumaloggerInterfaceSecurity::readTextStaysOnSilence()
@@ -99,7 +99,7 @@ void TestBrumaloggerInterfaceSecurity::readTextStaysOnSilence()
     QString read(QStringLiteral("before"));
     QVERIFY(!rig->link.lGetText(0, &read));
     QCOMPARE(read, QStringLiteral("before"));
-    QVERIFY(!(rig->link.*textsField()).contains(0));
+    QVERIFY(!(rig->link.*memberOf(Texts())).contains(0));
 }
 
 void TestBrumaloggerInterfaceSecurity::refusedSlotTouchesNothing()
@@ -107,7 +107,7 @@ void TestBrumaloggerInterfaceSecurity::refusedSlotTouchesNothing()
     QString read(QStringLiteral("before"));
     QVERIFY(!rig->link.lGetText(5, &read));
     QCOMPARE(read, QStringLiteral("before"));
-    QVERIFY(!(rig->link.*textsField()).contains(5));
+    QVERIFY(!(rig->link.*memberOf(Texts())).contains(5));
     QCOMPARE(rig->wire(), QList<QByteArray>());
 }
 
