@@ -23,8 +23,8 @@ void endTheNextWait(QObject* context)
 
 } // namespace
 
-ProcedureRig::ProcedureRig(const Settings& settings)
-    : WindowRig(settings)
+ProcedureRig::ProcedureRig(const Settings& settings, const Preparation& prepare)
+    : WindowRig(settings, prepare)
 {
     QObject::connect(find<QStatusBar>("statusBar"), &QStatusBar::messageChanged, &window,
                      [this] { statusLog << status(); });

@@ -7,7 +7,7 @@
 class ProcedureRig : public WindowRig
 {
 public:
-    explicit ProcedureRig(const Settings& settings = quietSettings());
+    explicit ProcedureRig(const Settings& settings = quietSettings(), const Preparation& prepare = {});
 
     /// As in WindowRig.
     SimulatedPort* plug(const LoggerModel& model = basicLogger(), const UsbIdentity& identity = {}) override;

@@ -4,6 +4,7 @@
 add_library(brumalogger_timetests STATIC
   setuppanel.cpp setuppanel.h
   timerig.cpp timerig.h
+  windowinspector.cpp windowinspector.h
   zonerig.cpp zonerig.h
 )
 target_link_libraries(brumalogger_timetests PUBLIC brumalogger_ntpresponder brumalogger_proceduretests brumalogger_time)
@@ -46,7 +47,7 @@ foreach(concern
   )
 endforeach()
 brumalogger_add_test(tst_mainwindow_servers SOURCES tst_mainwindow_servers.cpp
-  LINK brumalogger_proceduretests
+  LINK brumalogger_timetests
   MOCK TIME_SERVERS
 )
 brumalogger_add_test(tst_mainwindow_updates SOURCES tst_mainwindow_updates.cpp
@@ -67,8 +68,7 @@ brumalogger_add_test(tst_mainwindow_updatecheck SOURCES tst_mainwindow_updateche
   LINK brumalogger_proceduretests brumalogger_update brumalogger_webtests
   MOCK WEB_SERVER
 )
-brumalogger_add_test(tst_window_languages
-  SOURCES tst_window_languages.cpp windowinspector.cpp windowinspector.h
+brumalogger_add_test(tst_window_languages SOURCES tst_window_languages.cpp
   LINK brumalogger_timetests
   MOCK NETWORK X11
 )
@@ -84,7 +84,10 @@ brumalogger_add_test(tst_main_language
   LINK brumalogger_testsupport
   NETWORK
 )
-set_source_files_properties(${PROJECT_SOURCE_DIR}/app/main.cpp PROPERTIES COMPILE_DEFINITIONS main=programMain)
+set_source_files_properties(${PROJECT_SOURCE_DIR}/app/main.cpp PROPERTIES
+  COMPILE_DEFINITIONS main=programMain
+  SKIP_PRECOMPILE_HEADERS ON
+)
 target_compile_definitions(tst_main_language PRIVATE
   LRELEASE_FILE="${lrelease}"
   TRANSLATION_SOURCE="${PROJECT_SOURCE_DIR}/resources/translations/brumaloger-config-gui_it.ts"

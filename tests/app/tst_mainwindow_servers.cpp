@@ -1,12 +1,14 @@
 // The window's start beside real time servers: what the status bar says of them.
 
-#include "procedurerig.h"
+#include "timerig.h"
 
 #include <QTest>
 
-namespace {
+#include <csignal>
 
-constexpr int patience = 30000;
+using namespace TimeWords;
+
+namespace {
 
 Settings settingsWithPool(const char* pool)
 {
@@ -14,6 +16,25 @@ Settings settingsWithPool(const char* pool)
                               {QStringLiteral("useserverpool"), QLatin1String(pool)},
                               {QStringLiteral("timeserver"), QStringLiteral("1.cn.pool.ntp.org")}});
 }
+
+/// Keeps the servers from answering, for its own life.
+class Silence
+{
+public:
+    Silence() { signalAll(SIGSTOP); }
+    ~Silence() { signalAll(SIGCONT); }
+    Q_DISABLE_COPY(Silence)
+
+private:
+    static void signalAll(int signal)
+    {
+        const QList<QByteArray> servers = qgetenv("TIME_SERVER_PIDS").split(' ');
+        for (const QByteArray& server : servers) {
+            if (kill(server.toInt(), signal) != 0)
+                qFatal("there is no time server %s", server.constData());
+        }
+    }
+};
 
 } // namespace
 
@@ -24,6 +45,8 @@ class TestMainWindowServers : public QObject
 private slots:
     void saysWhoToldTheTime_data();
     void saysWhoToldTheTime();
+    void saysThatNobodyTellsTheTime_data();
+    void saysThatNobodyTellsTheTime();
 };
 
 void TestMainWindowServers::saysWhoToldTheTime_data()
@@ -39,12 +62,30 @@ void TestMainWindowServers::saysWhoToldTheTime()
 {
     QFETCH(Settings, settings);
     QFETCH(QString, source);
-    const ProcedureRig rig(settings);
-    QCOMPARE(rig.status(), source == QLatin1String("server pool")
-                               ? QStringLiteral("Fetching time and date from server pool...")
-                               : QStringLiteral("Fetching time and date from %1...").arg(source));
+    QString atFirst;
+    const ProcedureRig rig(settings, [&atFirst](WindowRig& starting) { atFirst = starting.status(); });
+    QCOMPARE(atFirst, QStringLiteral("Fetching time and date from %1...").arg(source));
     const QString fetched = QStringLiteral("Successfully fetched time and date from %1.").arg(source);
-    QVERIFY2(QTest::qWaitFor([&] { return rig.status() == fetched; }, patience), qPrintable(rig.status()));
+    QVERIFY2(QTest::qWaitFor([&] { return rig.status() == fetched; }, queryPatience),
+             qPrintable(rig.status()));
+}
+
+void TestMainWindowServers::saysThatNobodyTellsTheTime_data()
+{
+    QTest::addColumn<bool>("pool");
+    QTest::addColumn<QString>("failed");
+    QTest::newRow("server") << false << failedServer;
+    QTest::newRow("pool") << true << failedPool;
+}
+
+void TestMainWindowServers::saysThatNobodyTellsTheTime()
+{
+    QFETCH(bool, pool);
+    QFETCH(QString, failed);
+    const Silence silence;
+    TimeRig rig(timeSettings(pool));
+    QCOMPARE(rig.status(), pool ? fetchingPool : fetchingServer);
+    QVERIFY2(rig.comesTo(failed), qPrintable(rig.status()));
 }
 
 QTEST_MAIN(TestMainWindowServers)

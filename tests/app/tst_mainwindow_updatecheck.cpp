@@ -74,8 +74,9 @@ void TestMainWindowUpdateCheck::newer()
     const WebFolder web;
     web.put(versionFilePath, "# newest first\n1.5.0 win32:http://get.example:81/1.5.0\n1.3.3\n");
     const Browser browser;
-    ProcedureRig rig;
-    expectUpdate(rig.robot, QStringLiteral("1.5.0"), QMessageBox::Ok);
+    ProcedureRig rig(quietSettings(), [](WindowRig& starting) {
+        expectUpdate(starting.robot, QStringLiteral("1.5.0"), QMessageBox::Ok);
+    });
     QVERIFY(checked(rig));
     QTRY_COMPARE(browser.opened, QList<QUrl>{QUrl(QStringLiteral("http://get.example:81/1.5.0"))});
     QCOMPARE(differences(rig, beforeAnyConnect()), QString());
@@ -85,8 +86,9 @@ void TestMainWindowUpdateCheck::newerBehindARedirect()
 {
     const WebFolder web;
     web.put(versionFilePath + "/index", "1.5.0\n");
-    ProcedureRig rig;
-    expectUpdate(rig.robot, QStringLiteral("1.5.0"), QMessageBox::Cancel);
+    const ProcedureRig rig(quietSettings(), [](WindowRig& starting) {
+        expectUpdate(starting.robot, QStringLiteral("1.5.0"), QMessageBox::Cancel);
+    });
     QVERIFY(checked(rig));
     QTRY_COMPARE(rig.robot.problems(), QString());
 }
@@ -95,9 +97,10 @@ void TestMainWindowUpdateCheck::mandatory()
 {
     const WebFolder web;
     web.put(versionFilePath, "1.5.0\n1.3.4 mandatory\n1.3.3\n");
-    ProcedureRig rig;
+    ProcedureRig rig(quietSettings(), [](WindowRig& starting) {
+        expectMandatoryUpdate(starting.robot, QStringLiteral("1.5.0"), QMessageBox::Cancel);
+    });
     rig.plug();
-    expectMandatoryUpdate(rig.robot, QStringLiteral("1.5.0"), QMessageBox::Cancel);
     QVERIFY(checked(rig));
     QTRY_VERIFY(!rig.window.isVisible());
     QCOMPARE(closedWindowRemains(rig), QString());

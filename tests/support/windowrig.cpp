@@ -13,6 +13,7 @@
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 namespace {
 
@@ -30,11 +31,14 @@ WindowRig::Noon::Noon()
     TestClock::set(QDateTime(QDate(2024, 5, 15), QTime(12, 0)).toMSecsSinceEpoch());
 }
 
-WindowRig::WindowRig(const Settings& settings)
+WindowRig::WindowRig(const Settings& settings, const Preparation& prepare)
     : folder(settings)
 {
+    if (prepare)
+        prepare(*this);
     window.show();
-    if (!QTest::qWaitForWindowExposed(&window))
+    // An answer may also close it before it is on the screen.
+    if (!QTest::qWaitFor([this] { return window.windowHandle()->isExposed() || !window.isVisible(); }))
         qFatal("the window was never exposed");
 }
 

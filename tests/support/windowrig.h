@@ -25,8 +25,11 @@ LoggerModel customLogger();
 class WindowRig
 {
 public:
-    /// Shows the window, started with @p settings; nothing is plugged in yet.
-    explicit WindowRig(const Settings& settings = quietSettings());
+    using Preparation = std::function<void(WindowRig& rig)>;
+
+    /// Shows the window, started with @p settings; nothing is plugged in yet. Servers may answer as soon as
+    /// it is shown, so what counts on their answer is done by @p prepare, right before.
+    explicit WindowRig(const Settings& settings = quietSettings(), const Preparation& prepare = {});
     virtual ~WindowRig() = default;
 
     /// Plugs in a logger; the first one is also `logger`.
