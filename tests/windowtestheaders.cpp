@@ -1,0 +1,1 @@
+// Holds nothing: its target is the one whose precompiled headers the tests use.
