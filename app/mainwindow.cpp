@@ -222,10 +222,12 @@ void MainWindow::closeEvent(QCloseEvent* event)
     event->accept();
 }
 
-// None of them outlives the window or its device on the screen. To a box that asks the answer is No, or
-// Cancel.
+// None of them, and no open menu, outlives the window or its device on the screen. To a box that asks the
+// answer is No, or Cancel.
 void MainWindow::plRejectDialogs()
 {
+    if (QWidget* menu = QApplication::activePopupWidget())
+        menu->close();
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* window : windows) {
         if (qobject_cast<QMessageBox*>(window))

@@ -11,18 +11,30 @@
 #include <QTimer>
 #include <QWindow>
 
+#include <functional>
 #include <utility>
 
 namespace {
 
-/// Answers menus: takes down what they offer, then chooses their first action or leaves them.
+void choose(QMenu* menu)
+{
+    QTest::keyClick(menu, Qt::Key_Down);
+    QTest::keyClick(menu, Qt::Key_Return);
+}
+
+void leave(QMenu* menu)
+{
+    QTest::keyClick(menu, Qt::Key_Escape);
+}
+
+/// Answers menus: takes down what they offer, then does with them what it was told.
 class MenuRobot : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit MenuRobot(bool choose)
-        : chooses(choose)
+    explicit MenuRobot(std::function<void(QMenu* menu)> answer)
+        : answerMenu(std::move(answer))
     {
         timer.setSingleShot(true);
         connect(&timer, &QTimer::timeout, this, &MenuRobot::answer);
@@ -50,12 +62,10 @@ private:
             offered << action->text();
         positions << open->pos();
         parents << open->parentWidget();
-        if (chooses)
-            QTest::keyClick(open, Qt::Key_Down);
-        QTest::keyClick(open, chooses ? Qt::Key_Return : Qt::Key_Escape);
+        answerMenu(open);
     }
 
-    bool chooses;
+    std::function<void(QMenu*)> answerMenu;
     QMenu* open = nullptr;
     QTimer timer;
 };
@@ -77,6 +87,7 @@ private slots:
     void copiesLabelsAsShown();
     void copiesWhatWasRead();
     void leavingTheMenuCopiesNothing();
+    void closingTheWindowEndsTheMenu();
 };
 
 void TestMainWindowCopying::copiesLabelsAsShown_data()
@@ -97,7 +108,7 @@ void TestMainWindowCopying::copiesLabelsAsShown()
     QGuiApplication::clipboard()->setText(QStringLiteral("before"));
     QCursor::setPos(rig.window.mapToGlobal(QPoint(300, 200)));
 
-    const MenuRobot menus(true);
+    const MenuRobot menus(choose);
     rightClick(rig, label);
     QCOMPARE(menus.offered, QStringList("Copy as text..."));
     QCOMPARE(menus.parents, QList<QWidget*>({&rig.window}));
@@ -109,7 +120,7 @@ void TestMainWindowCopying::copiesWhatWasRead()
 {
     ProcedureRig rig;
     rig.plugAndConnect();
-    const MenuRobot menus(true);
+    const MenuRobot menus(choose);
     for (const auto& [name, text] :
          {std::pair("labelDeviceName", "Brumalogger USB"), std::pair("labelFirmwareVersion", "1.1.9"),
           std::pair("labelSerial", "BL-0042"), std::pair("labelHardwareRevision", "2.4"),
@@ -124,9 +135,21 @@ void TestMainWindowCopying::leavingTheMenuCopiesNothing()
 {
     ProcedureRig rig;
     QGuiApplication::clipboard()->setText(QStringLiteral("before"));
-    const MenuRobot menus(false);
+    const MenuRobot menus(leave);
     rightClick(rig, rig.find<QLabel>("labelType"));
     QCOMPARE(menus.offered.size(), 1);
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
+}
+
+void TestMainWindowCopying::closingTheWindowEndsTheMenu()
+{
+    ProcedureRig rig;
+    QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+    const MenuRobot menus([&rig](QMenu*) { rig.window.close(); });
+    rightClick(rig, rig.find<QLabel>("labelType"));
+    QCOMPARE(menus.offered.size(), 1);
+    QCOMPARE(rig.window.findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly), QList<QMenu*>());
+    QVERIFY(!rig.window.isVisible());
     QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
 }
 

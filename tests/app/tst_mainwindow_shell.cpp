@@ -3,6 +3,7 @@
 #include "formrows.h"
 #include "procedurerig.h"
 #include "support/browser.h"
+#include "support/privatemember.h"
 #include "support/testclock.h"
 #include "time/timekeeper.h"
 #include "windowstate.h"
@@ -16,6 +17,13 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
+
+struct ClearDeviceInfo
+{
+    using Member = void (MainWindow::*)();
+    friend Member memberOf(ClearDeviceInfo);
+};
+template struct PrivateMember<ClearDeviceInfo, &MainWindow::plClearDeviceInfo>;
 
 namespace {
 
@@ -94,6 +102,7 @@ private slots:
     void disconnectClearsThePanels();
     void disconnectClearsNumbers_data();
     void disconnectClearsNumbers();
+    void clearingEnablesTheInfoLine();
     void usableControls();
     void usableControlsDuringAProcedure_data();
     void usableControlsDuringAProcedure();
@@ -184,6 +193,19 @@ void TestMainWindowShell::disconnectClearsNumbers()
     QCOMPARE(rig.value("spinSampling"), 1.0);
     QCOMPARE(rig.value("spinDelay"), 1.0);
     QCOMPARE(rig.robot.problems(), QString());
+}
+
+// Nobody sees it as things are, for whoever clears disables all controls next.
+void TestMainWindowShell::clearingEnablesTheInfoLine()
+{
+    ProcedureRig rig;
+    (rig.window.*memberOf(ClearDeviceInfo()))();
+    QStringList enabled;
+    for (const char* name : {"lineSender", "lineRecipient", "lineInfo", "lineBarcode"}) {
+        if (rig.isEnabled(name))
+            enabled << QLatin1String(name);
+    }
+    QCOMPARE(enabled, QStringList("lineInfo"));
 }
 
 void TestMainWindowShell::usableControls()
