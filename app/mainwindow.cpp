@@ -69,6 +69,14 @@ void rejectAll(std::initializer_list<QDialog*> dialogs)
     }
 }
 
+/// The loop of a dialog below a menu can't end before the menu's.
+void closeMenus()
+{
+    QWidget* menu = QApplication::activePopupWidget();
+    while (menu && menu->close())
+        menu = QApplication::activePopupWidget();
+}
+
 /// Gives @p button a keyboard shortcut, and returns its text for a tool tip.
 QString addShortcut(QPushButton* button, const char* keys)
 {
@@ -222,12 +230,11 @@ void MainWindow::closeEvent(QCloseEvent* event)
     event->accept();
 }
 
-// None of them, and no open menu, outlives the window or its device on the screen. To a box that asks the
-// answer is No, or Cancel.
+// None of them outlives the window or its device on the screen. To a box that asks the answer is No, or
+// Cancel.
 void MainWindow::plRejectDialogs()
 {
-    if (QWidget* menu = QApplication::activePopupWidget())
-        menu->close();
+    closeMenus();
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* window : windows) {
         if (qobject_cast<QMessageBox*>(window))

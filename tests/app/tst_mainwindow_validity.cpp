@@ -53,6 +53,7 @@ private slots:
     void optionsAreClosed();
     void acceptedOptionsOfALostDeviceAreNoChange();
     void cautionOfLostOptionsIsClosed();
+    void pickerIsClosed_data();
     void pickerIsClosed();
     void noDeviceIsNotJudged();
 };
@@ -288,8 +289,16 @@ void TestMainWindowValidity::cautionOfLostOptionsIsClosed()
     QCOMPARE(differences(rig, disconnected()), QString());
 }
 
+void TestMainWindowValidity::pickerIsClosed_data()
+{
+    QTest::addColumn<bool>("months");
+    QTest::newRow("picker") << false;
+    QTest::newRow("menu of the months") << true;
+}
+
 void TestMainWindowValidity::pickerIsClosed()
 {
+    QFETCH(const bool, months);
     DoubtfulRig waiting(secureLogger(false));
     TimeRig& rig = waiting.rig;
     expectInvalidDevice(rig.robot);
@@ -297,7 +306,9 @@ void TestMainWindowValidity::pickerIsClosed()
     QTimer::singleShot(0, options(rig), [&] {
         QTimer::singleShot(0, options(rig), [&] {
             picker = QApplication::activeModalWidget();
-            waiting.tellTimeUntil(found.last());
+            QTimer::singleShot(0, options(rig), [&] { waiting.tellTimeUntil(found.last()); });
+            if (months)
+                picker->findChild<QToolButton*>("qt_calendar_monthbutton")->showMenu();
         });
         options(rig)->findChild<QAbstractButton*>("toolStartDate")->click();
     });

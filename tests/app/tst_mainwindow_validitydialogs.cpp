@@ -1,5 +1,5 @@
 // The time servers' answer tells that the device is invalid while something is open that has nothing to do
-// with the device: the question for the exit, the settings, the About box, a label's menu.
+// with the device: the question for the exit, the settings, the About box; or a label's menu, which goes.
 
 #include "dialogs/settingsdialog.h"
 #include "support/nextchance.h"
@@ -9,9 +9,7 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QClipboard>
 #include <QLabel>
-#include <QMenu>
 #include <QPointer>
 #include <QSpinBox>
 #include <QTest>
@@ -130,28 +128,25 @@ void TestMainWindowValidityDialogs::overTheAboutBox()
     QCOMPARE(differences(rig, disconnected()), QString());
 }
 
-// The label that is copied is empty by then.
+// What it would copy is no longer there.
 void TestMainWindowValidityDialogs::overALabelsMenu()
 {
     JudgedRig waiting;
     TimeRig& rig = waiting.rig;
     auto* label = rig.find<QLabel>("labelSerial");
-    QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+    bool opened = false;
+    bool closed = false;
     atNextChance(&rig.window, [&] {
-        const QPointer<QWidget> menu = QApplication::activePopupWidget();
-        waiting.stayed = !menu.isNull();
+        opened = QApplication::activePopupWidget();
         waiting.tellTimeUntil(leftPort);
-        if (menu) {
-            menu->actions().constFirst()->trigger();
-            menu->close();
-        }
+        closed = !QApplication::activePopupWidget();
     });
     expectInvalidDevice(rig.robot);
     QTest::mouseClick(rig.window.windowHandle(), Qt::RightButton, {},
                       label->mapTo(&rig.window, label->rect().center()));
-    QVERIFY(waiting.stayed);
+    QVERIFY(opened);
     QVERIFY(waiting.told);
-    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral(" - "));
+    QVERIFY(closed);
     QCOMPARE(panels(rig), emptyPanels());
     QCOMPARE(differences(rig, disconnected()), QString());
 }
