@@ -1,7 +1,7 @@
 # Presets in the window: saving, loading, and what comes in between.
 add_library(brumalogger_presettests STATIC
-  answeredrig.cpp answeredrig.h
   presetrig.cpp presetrig.h
+  waitingpresetrig.cpp waitingpresetrig.h
 )
 target_link_libraries(brumalogger_presettests PUBLIC brumalogger_timetests)
 foreach(concern saving loading values dates roundtrip range languages zone zonewrites interruptions

@@ -18,10 +18,11 @@ Settings timeSettings(bool pool)
          {QStringLiteral("useserverpool"), pool ? QStringLiteral("1") : QStringLiteral("0")}});
 }
 
-Servers::Servers()
+Servers::Servers(const NtpAnswer& answer)
 {
     for (int i = 1; i <= poolSize; i++) {
         all.push_back(std::make_unique<NtpResponder>());
+        all.back()->setAnswer(answer);
         if (!all.back()->listen(QHostAddress(QStringLiteral("127.1.0.%1").arg(i))))
             qFatal("no server at 127.1.0.%d: %s", i, qPrintable(all.back()->errorString()));
     }
@@ -50,6 +51,12 @@ int Servers::requests() const
     for (const auto& server : all)
         count += server->requests().size();
     return count;
+}
+
+void Servers::awaitRequest() const
+{
+    if (!QTest::qWaitFor([this] { return requests() > 0; }))
+        qFatal("nobody asks for the time");
 }
 
 TimeRig::TimeRig(const Settings& settings)
@@ -81,20 +88,6 @@ QString TimeRig::zone() const
     return words.join(QStringLiteral(", "));
 }
 
-WaitingRig::WaitingRig(qint64 ahead)
-    : rig(timeSettings())
-{
-    servers.answer(NtpAnswer::currentTime(ahead).later());
-    if (!QTest::qWaitFor([this] { return servers.requests() > 0; }))
-        qFatal("nobody asks for the time");
-}
-
-void WaitingRig::tellTimeUntil(const QString& status)
-{
-    servers.release();
-    told = rig.comesTo(status);
-}
-
 DoubtfulRig::DoubtfulRig(const LoggerModel& model)
     : WaitingRig(Q_INT64_C(3) * 86400 * 1000)
 {
@@ -103,9 +96,9 @@ DoubtfulRig::DoubtfulRig(const LoggerModel& model)
 }
 
 SynchronisedRig::SynchronisedRig(const LoggerModel& model, qint64 ahead)
-    : rig(timeSettings())
+    : servers(NtpAnswer::currentTime(ahead))
+    , rig(timeSettings())
 {
-    servers.answer(NtpAnswer::currentTime(ahead));
     if (!rig.comesTo(TimeWords::fetchedServer))
         qFatal("the answer never came");
     rig.plugAndConnect(model);

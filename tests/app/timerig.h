@@ -30,16 +30,19 @@ constexpr int poolSize = 7;
 /// Time configuration on.
 Settings timeSettings(bool pool = false);
 
-/// The seven servers; silent until they are told otherwise.
+/// The seven servers; silent until they are told otherwise. What they are to answer a window's first request
+/// is told before the window is made.
 class Servers
 {
 public:
-    Servers();
+    explicit Servers(const NtpAnswer& answer = NtpAnswer::silence());
     void answer(const NtpAnswer& answer);
     /// The same for one of them, from 1 on.
     void answer(int number, const NtpAnswer& answer);
     void release();
     int requests() const;
+    /// Returns once somebody has asked; the test program ends if nobody does.
+    void awaitRequest() const;
 
 private:
     std::vector<std::unique_ptr<NtpResponder>> all;
@@ -59,17 +62,36 @@ public:
     SettingsDialog* dialog;
 };
 
-/// A window whose query is under way. The answer, of a clock @p ahead milliseconds ahead, comes when it is
-/// told.
-struct WaitingRig
+/// A window, on a rig of its kind, whose query is under way. The answer, of a clock @p ahead milliseconds
+/// ahead, comes when it is told.
+template<typename Rig>
+struct Waiting
 {
-    explicit WaitingRig(qint64 ahead = 0);
+    Waiting(const Settings& settings, qint64 ahead)
+        : servers(NtpAnswer::currentTime(ahead).later())
+        , rig(settings)
+    {
+        servers.awaitRequest();
+    }
+
     /// Sends the answer, and waits for the status bar to say @p status; `told` is whether it did.
-    void tellTimeUntil(const QString& status);
+    void tellTimeUntil(const QString& status)
+    {
+        servers.release();
+        told = rig.comesTo(status);
+    }
 
     Servers servers;
-    TimeRig rig;
+    Rig rig;
     bool told = false;
+};
+
+struct WaitingRig : Waiting<TimeRig>
+{
+    explicit WaitingRig(qint64 ahead = 0)
+        : Waiting(timeSettings(), ahead)
+    {
+    }
 };
 
 /// A logger is connected, and the answer of the time server is still to come: it will tell a time three days

@@ -35,8 +35,8 @@ constexpr EndingRow endingRows[] = {
 struct PoolServers : Servers
 {
     explicit PoolServers(int early)
+        : Servers(NtpAnswer::currentTime().later())
     {
-        answer(NtpAnswer::currentTime().later());
         for (int number = 2; number < 2 + early; ++number)
             answer(number, NtpAnswer::currentTime());
     }

@@ -1,10 +1,10 @@
 // What arrives while the choice of a preset's file, or a box about it, is open: clicks, the time, the
 // window's end.
 
-#include "answeredrig.h"
 #include "dialogs/advancedoptionsdialog.h"
 #include "extendedrig.h"
 #include "support/nextchance.h"
+#include "waitingpresetrig.h"
 #include "windowstate.h"
 #include "windowwords.h"
 
@@ -17,6 +17,7 @@
 #include <QTest>
 
 using namespace PresetWords;
+using namespace TimeWords;
 using namespace WindowWords;
 
 namespace {
@@ -206,14 +207,14 @@ void TestMainWindowPresetsInterruptions::windowClosesAtTheReplaceQuestion()
 // In time for the zone of the file that is then chosen.
 void TestMainWindowPresetsInterruptions::timeComesAtTheFileDialog()
 {
-    AnsweredRig answered;
-    PresetRig& rig = answered.rig;
+    WaitingPresetRig waiting;
+    PresetRig& rig = waiting.rig;
     rig.plugAndConnect(secureLogger());
     const QString path = rig.document(QStringLiteral("own.bpr"));
     writePreset(path, presetWith(milkPreset(), {{QStringLiteral("timezone"), QStringLiteral("GMT+3:00")}}));
-    atFileDialog(rig, [&](QFileDialog*) { answered.answer(); });
+    atFileDialog(rig, [&](QFileDialog*) { waiting.tellTimeUntil(fetchedServer); });
     rig.load(path);
-    QVERIFY(answered.came);
+    QVERIFY(waiting.told);
     QCOMPARE(rig.wire(), QList<QByteArray>{"m"});
     QCOMPARE(rig.text("lineInfo"), QStringLiteral("Milk"));
     QCOMPARE(rig.text("labelTimeZone"), QStringLiteral("GMT+3:00"));
@@ -223,14 +224,14 @@ void TestMainWindowPresetsInterruptions::timeComesAtTheFileDialog()
 // Too late for the zone.
 void TestMainWindowPresetsInterruptions::timeComesAtAWarning()
 {
-    AnsweredRig answered;
-    PresetRig& rig = answered.rig;
+    WaitingPresetRig waiting;
+    PresetRig& rig = waiting.rig;
     rig.plugAndConnect();
     writePreset(defaultPreset, milkPreset());
     rig.robot.expectWarning(QStringLiteral("Warning"), unreachable);
-    atFirstBox(rig, [&answered] { answered.answer(); });
+    atFirstBox(rig, [&waiting] { waiting.tellTimeUntil(fetchedServer); });
     rig.press("buttonPreset");
-    QVERIFY(answered.came);
+    QVERIFY(waiting.told);
     QCOMPARE(rig.wire(), QList<QByteArray>{"m"});
     QCOMPARE(rig.text("lineInfo"), QStringLiteral("Milk"));
     QCOMPARE(differences(rig, idle(QStringLiteral("Loaded default.bpr"), true)), QString());

@@ -120,10 +120,9 @@ void TestMainWindowPresetsLanguages::zoneWithoutTime()
 // It stands beside the report's own words, which are English.
 void TestMainWindowPresetsLanguages::remarkInTheReport()
 {
-    Servers servers;
+    const Servers servers(NtpAnswer::currentTime());
     const MarkingTranslator translator;
     PresetRig rig(timeAndPresets());
-    servers.answer(NtpAnswer::currentTime());
     QVERIFY(rig.comesTo(marked(fetchedServer)));
     rig.plugAndConnect();
     rig.apply(presetOfZone(QStringLiteral("GMT+2:00")));

@@ -1,6 +1,6 @@
 // The device turns out to be invalid while the choice of a preset's file, or a box about it, is open.
 
-#include "answeredrig.h"
+#include "waitingpresetrig.h"
 #include "windowstate.h"
 #include "windowwords.h"
 
@@ -59,7 +59,7 @@ void TestMainWindowPresetsLostDevice::atTheFileDialog()
         stayed = dialog->isVisible();
     });
     rig.trigger(action);
-    QVERIFY(doubtful.came);
+    QVERIFY(doubtful.told);
     QVERIFY(!stayed);
     QCOMPARE(panels(rig), emptyPanels());
     QCOMPARE(presetIn(path), milkPreset());
@@ -93,14 +93,14 @@ void TestMainWindowPresetsLostDevice::changesAtTheFileDialog()
     bool stayed = true;
     atFileDialog(rig, [&](QFileDialog* dialog) {
         fileDialog = dialog;
-        doubtful.answer(leaves ? leftPort : foundInvalid);
+        doubtful.tellTimeUntil(leaves ? leftPort : foundInvalid);
     });
     connect(&rig.robot, &DialogRobot::sBoxOpened, &rig.window, [&](const QString& title) {
         if (title == QStringLiteral("Disconnecting") && fileDialog)
             stayed = fileDialog->isVisible();
     });
     rig.trigger(action);
-    QVERIFY(doubtful.came);
+    QVERIFY(doubtful.told);
     QVERIFY(!stayed);
     QCOMPARE(presetIn(path), milkPreset());
     QCOMPARE(panels(rig), leaves ? emptyPanels()
@@ -130,7 +130,7 @@ void TestMainWindowPresetsLostDevice::fileChosenWhileTheDeviceIsJudged()
         doubtful.tellThatItIsInvalid();
     });
     rig.trigger(action);
-    QVERIFY(doubtful.came);
+    QVERIFY(doubtful.told);
     QVERIFY(!QFile::exists(fresh));
     QCOMPARE(panels(rig), emptyPanels());
     QCOMPARE(differences(rig, disconnected()), QString());
@@ -152,7 +152,7 @@ void TestMainWindowPresetsLostDevice::atTheReplaceQuestion()
         stayed = question && question->isVisible();
     });
     rig.save(path);
-    QVERIFY(doubtful.came);
+    QVERIFY(doubtful.told);
     QVERIFY(!stayed);
     QCOMPARE(presetIn(path), milkPreset());
     QCOMPARE(differences(rig, disconnected()), QString());
@@ -183,7 +183,7 @@ void TestMainWindowPresetsLostDevice::atABox()
         rig.save(path.chopped(4)); // the file dialog would go into the folder
     else
         rig.press("buttonPreset");
-    QVERIFY(doubtful.came);
+    QVERIFY(doubtful.told);
     QCOMPARE(panels(rig), emptyPanels());
     WindowState after = disconnected();
     if (text == unsaved)

@@ -234,12 +234,11 @@ void TestMainWindowPresetsRange::windowClosesAtTheNotice()
 void TestMainWindowPresetsRange::deviceIsLostAtTheNotice()
 {
     QFETCH(const Way, way);
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime(3 * dayMsecs).later());
+    Servers servers(NtpAnswer::currentTime(3 * dayMsecs).later());
     Settings settings = presetSettings();
     settings.insert(QStringLiteral("disabletime"), QStringLiteral("0"));
     TypingRig rig(settings);
-    QVERIFY(QTest::qWaitFor([&servers] { return servers.requests() > 0; }));
+    servers.awaitRequest();
     rig.begin();
     bool lost = false;
     rig.atNotice([&] {

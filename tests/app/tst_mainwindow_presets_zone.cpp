@@ -37,9 +37,9 @@ void expectDisabled(DialogRobot& robot, const QString& zone)
 struct SynchronisedPresetRig
 {
     explicit SynchronisedPresetRig(const LoggerModel& model)
-        : rig(timeAndPresets())
+        : servers(NtpAnswer::currentTime())
+        , rig(timeAndPresets())
     {
-        servers.answer(NtpAnswer::currentTime());
         if (!rig.comesTo(fetchedServer))
             qFatal("the answer never came");
         rig.plugAndConnect(model);

@@ -38,9 +38,9 @@ class ZoneWriteRig
 {
 public:
     explicit ZoneWriteRig(const LoggerModel& model)
-        : rig(timeAndPresets())
+        : servers(NtpAnswer::currentTime())
+        , rig(timeAndPresets())
     {
-        servers.answer(NtpAnswer::currentTime());
         if (!rig.comesTo(fetchedServer))
             qFatal("the answer never came");
         rig.plugAndConnect(withWrongClock(model));

@@ -17,22 +17,15 @@ namespace {
 constexpr auto Ok = QMessageBox::Ok;
 constexpr qint64 threeDays = Q_INT64_C(3) * 86400 * 1000;
 
-/// Servers that answer when they are told to.
-struct WaitingServers : Servers
-{
-    explicit WaitingServers(qint64 ahead) { answer(NtpAnswer::currentTime(ahead).later()); }
-};
-
 /// A connected Single-use logger, and a time to judge it by that is @p ahead milliseconds ahead.
 class JudgingRig
 {
 public:
     JudgingRig(const QByteArray& file, qint64 ahead)
-        : servers(ahead)
+        : servers(NtpAnswer::currentTime(ahead).later())
         , update(file, secureLogger(false), timeSettings())
     {
-        if (!QTest::qWaitFor([this] { return servers.requests() > 0; }))
-            qFatal("nobody asks for the time");
+        servers.awaitRequest();
     }
 
     /// Lets the time come, and returns once the window has done all that follows from it.
@@ -47,7 +40,7 @@ public:
         return QTest::qWaitFor([this] { return !update.rig.window.isVisible(); }, queryPatience);
     }
 
-    WaitingServers servers;
+    Servers servers;
     ConnectedUpdateRig update;
 };
 

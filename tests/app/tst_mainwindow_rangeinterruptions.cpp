@@ -237,10 +237,9 @@ void TestMainWindowRangeInterruptions::plugIsPulledAtTheNotice()
 void TestMainWindowRangeInterruptions::deviceIsInvalidAtTheNotice()
 {
     QFETCH(const Way, way);
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime(threeDays).later());
+    Servers servers(NtpAnswer::currentTime(threeDays).later());
     TypingRig rig(timeSettings());
-    QTRY_VERIFY(servers.requests() > 0);
+    servers.awaitRequest();
     rig.begin();
     bool told = false;
     rig.atNotice = [&] {

@@ -31,11 +31,10 @@ private slots:
 
 void TestMainWindowTime::asksOneServerAtTheStart()
 {
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime().later());
+    Servers servers(NtpAnswer::currentTime().later());
     TimeRig rig(timeSettings());
     QCOMPARE(rig.status(), fetchingServer);
-    QVERIFY(QTest::qWaitFor([&] { return servers.requests() > 0; }));
+    servers.awaitRequest();
     QCOMPARE(rig.status(), fetchingServer);
     servers.release();
     QVERIFY(rig.comesTo(fetchedServer));
@@ -43,8 +42,7 @@ void TestMainWindowTime::asksOneServerAtTheStart()
 
 void TestMainWindowTime::asksThePoolAtTheStart()
 {
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime().later());
+    Servers servers(NtpAnswer::currentTime().later());
     TimeRig rig(timeSettings(true));
     QCOMPARE(rig.status(), fetchingPool);
     // The first row's text is no host name.
@@ -65,8 +63,7 @@ void TestMainWindowTime::asksNobodyWithTimeConfigurationOff()
 
 void TestMainWindowTime::unchangedServerIsNotAskedAgain()
 {
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime());
+    const Servers servers(NtpAnswer::currentTime());
     TimeRig rig(timeSettings());
     QVERIFY(rig.comesTo(fetchedServer));
     rig.dialog->accept();
@@ -77,8 +74,7 @@ void TestMainWindowTime::unchangedServerIsNotAskedAgain()
 
 void TestMainWindowTime::otherServerIsAsked()
 {
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime());
+    const Servers servers(NtpAnswer::currentTime());
     TimeRig rig(timeSettings());
     QVERIFY(rig.comesTo(fetchedServer));
     child<QComboBox>(*rig.dialog, "comboServerList")->setCurrentIndex(3);
@@ -89,8 +85,7 @@ void TestMainWindowTime::otherServerIsAsked()
 
 void TestMainWindowTime::poolIsAskedAtEveryAcceptance()
 {
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime());
+    const Servers servers(NtpAnswer::currentTime());
     TimeRig rig(timeSettings(true));
     for (int round = 0; round < 3; round++) {
         QVERIFY(rig.comesTo(fetchedPool));
@@ -102,8 +97,7 @@ void TestMainWindowTime::poolIsAskedAtEveryAcceptance()
 
 void TestMainWindowTime::backFromThePoolTheServerIsAskedAgain()
 {
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime());
+    const Servers servers(NtpAnswer::currentTime());
     TimeRig rig(timeSettings());
     QVERIFY(rig.comesTo(fetchedServer));
     rig.check("checkUsePool", true);
@@ -148,7 +142,7 @@ void TestMainWindowTime::silenceIsNotToldWithTimeConfigurationOff()
 {
     const Servers servers;
     TimeRig rig(timeSettings());
-    QVERIFY(QTest::qWaitFor([&] { return servers.requests() > 0; }));
+    servers.awaitRequest();
     rig.check("checkDisableTime", true);
     TimePoolWorker later; // begins after the window's query, and ends after it
     QSignalSpy ended(&later, &TimePoolWorker::sQueryTimeout);
@@ -160,10 +154,9 @@ void TestMainWindowTime::silenceIsNotToldWithTimeConfigurationOff()
 
 void TestMainWindowTime::resultIsNotToldWithTimeConfigurationOff()
 {
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime().later());
+    Servers servers(NtpAnswer::currentTime().later());
     TimeRig rig(timeSettings());
-    QVERIFY(QTest::qWaitFor([&] { return servers.requests() > 0; }));
+    servers.awaitRequest();
     rig.plugAndConnect();
     const QString connected = rig.status();
     rig.check("checkDisableTime", true);

@@ -120,9 +120,7 @@ void TestMainWindowTimeSync::nothingIsSentWithoutReferenceTime()
 {
     QFETCH(const bool, extended);
     QFETCH(const bool, configured);
-    Servers servers;
-    if (!configured)
-        servers.answer(NtpAnswer::currentTime());
+    const Servers servers(configured ? NtpAnswer::silence() : NtpAnswer::currentTime());
     TimeRig rig(timeSettings());
     if (!configured) {
         QVERIFY(rig.comesTo(fetchedServer));

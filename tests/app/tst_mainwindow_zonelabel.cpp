@@ -72,12 +72,11 @@ void TestMainWindowZoneLabel::zoneOfTheDevicesClock()
 {
     QFETCH(int, ahead);
     QFETCH(QString, zone);
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime().later());
+    Servers servers(NtpAnswer::currentTime().later());
     TimeRig rig(timeSettings());
     rig.plugAndConnect(loggerAhead(ahead));
     QCOMPARE(rig.zone(), QString());
-    QVERIFY(QTest::qWaitFor([&] { return servers.requests() > 0; }));
+    servers.awaitRequest();
     servers.release();
     QVERIFY(rig.comesTo(fetchedServer));
     QCOMPARE(rig.zone(), zone);
@@ -96,8 +95,7 @@ void TestMainWindowZoneLabel::zoneIsHiddenWithoutReferenceTime()
 
 void TestMainWindowZoneLabel::zoneIsHiddenWithTimeConfigurationOff()
 {
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime());
+    const Servers servers(NtpAnswer::currentTime());
     TimeRig rig(timeSettings());
     QVERIFY(rig.comesTo(fetchedServer));
     rig.plugAndConnect(loggerAhead(7200));
@@ -125,8 +123,7 @@ void TestMainWindowZoneLabel::zoneIsHiddenWhenTheClockFitsNone()
 
 void TestMainWindowZoneLabel::editorNeedsADeviceAndReferenceTime()
 {
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime());
+    const Servers servers(NtpAnswer::currentTime());
     TimeRig rig(timeSettings());
     QVERIFY(rig.comesTo(fetchedServer));
     rig.dialog->accept();
@@ -144,11 +141,10 @@ void TestMainWindowZoneLabel::editorNeedsADeviceAndReferenceTime()
 
 void TestMainWindowZoneLabel::answerDuringAReadTouchesNoControls()
 {
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime().later());
+    Servers servers(NtpAnswer::currentTime().later());
     TimeRig rig(timeSettings());
     rig.plugAndConnect(loggerAhead(7200));
-    QVERIFY(QTest::qWaitFor([&] { return servers.requests() > 0; }));
+    servers.awaitRequest();
     rig.takeStatusLog();
     QString zoneThen;
     rig.atCommand(6, [&] {
@@ -168,8 +164,7 @@ void TestMainWindowZoneLabel::answerDuringAReadTouchesNoControls()
 
 void TestMainWindowZoneLabel::answerWithoutADevice()
 {
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime());
+    const Servers servers(NtpAnswer::currentTime());
     TimeRig rig(timeSettings());
     QVERIFY(rig.comesTo(fetchedServer));
     QCOMPARE(rig.zone(), QString());
@@ -194,8 +189,7 @@ void TestMainWindowZoneLabel::answerBehindADevice()
 
 void TestMainWindowZoneLabel::zoneOnTheDeviceWins()
 {
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime());
+    const Servers servers(NtpAnswer::currentTime());
     TimeRig rig(timeSettings());
     QVERIFY(rig.comesTo(fetchedServer));
     rig.plugAndConnect(loggerInIndia());
@@ -226,8 +220,7 @@ void TestMainWindowZoneLabel::zoneOnTheDeviceNeedsNoTimeConfiguration()
 
 void TestMainWindowZoneLabel::adoptedZoneIsShown()
 {
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime());
+    const Servers servers(NtpAnswer::currentTime());
     TimeRig rig(timeSettings());
     QVERIFY(rig.comesTo(fetchedServer));
     rig.plugAndConnect();
@@ -240,8 +233,7 @@ void TestMainWindowZoneLabel::adoptedZoneIsShown()
 // In the window's books only: clock and label stay as they are until they are next looked at.
 void TestMainWindowZoneLabel::unknownZoneFallsBack()
 {
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime());
+    const Servers servers(NtpAnswer::currentTime());
     TimeRig rig(timeSettings());
     QVERIFY(rig.comesTo(fetchedServer));
     rig.plugAndConnect(loggerAhead(7200));
@@ -256,12 +248,11 @@ void TestMainWindowZoneLabel::unknownZoneFallsBack()
 void TestMainWindowZoneLabel::updateIsLoggedWithReferenceTimeOnly()
 {
     const QString line = QStringLiteral("debug: Updating time zone on UI...");
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime().later());
+    Servers servers(NtpAnswer::currentTime().later());
     const LogLines log;
     TimeRig rig(timeSettings());
     rig.dialog->accept();
-    QVERIFY(QTest::qWaitFor([&] { return servers.requests() > 0; }));
+    servers.awaitRequest();
     QCOMPARE(log.all().count(line), 0); // time configuration alone
     servers.release();
     QVERIFY(rig.comesTo(fetchedServer));
@@ -289,8 +280,7 @@ void TestMainWindowZoneLabel::settingsAcceptedDuringAReadTouchNoControls_data()
 void TestMainWindowZoneLabel::settingsAcceptedDuringAReadTouchNoControls()
 {
     QFETCH(const bool, pool);
-    Servers servers;
-    servers.answer(NtpAnswer::currentTime());
+    Servers servers(NtpAnswer::currentTime());
     TimeRig rig(timeSettings());
     QVERIFY(rig.comesTo(fetchedServer));
     rig.plugAndConnect();

@@ -54,10 +54,10 @@ Settings settingsOf(const QString& language, int fontSize)
 }
 
 Place::Place(const QString& language, int fontSize)
-    : rig(settingsOf(language, fontSize))
+    : servers(NtpAnswer::currentTime())
+    , rig(settingsOf(language, fontSize))
 {
     rig.window.lSetLanguages(languageTable());
-    servers.answer(NtpAnswer::currentTime());
     if (!rig.comesTo(
             MainWindow::tr("Successfully fetched time and date from %1.").arg(MainWindow::tr("server pool"))))
         qFatal("the answer never came");

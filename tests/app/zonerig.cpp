@@ -80,9 +80,9 @@ void ZoneHand::use(QDialog* dialog)
 }
 
 ZoneRig::ZoneRig(const LoggerModel& model, int secondsAhead)
-    : rig(timeSettings(true))
+    : servers(NtpAnswer::currentTime(Q_INT64_C(1000) * secondsAhead))
+    , rig(timeSettings(true))
 {
-    servers.answer(NtpAnswer::currentTime(Q_INT64_C(1000) * secondsAhead));
     if (!rig.comesTo(TimeWords::fetchedPool))
         qFatal("the answer never came");
     waitForRequests(hostsInPool);

@@ -9,26 +9,21 @@ class QFileDialog;
 /// What basicLogger() makes of a preset, with another text.
 PresetTable milkPreset();
 
-/// A window with presets whose time servers' answer, of a clock @p ahead milliseconds ahead, waits to be
-/// sent.
-struct AnsweredRig
+/// A window with presets, whose query is under way.
+struct WaitingPresetRig : Waiting<PresetRig>
 {
-    explicit AnsweredRig(qint64 ahead = 0);
-
-    /// Sends the answer; `came` tells whether the status bar said @p status behind it.
-    void answer(const QString& status = TimeWords::fetchedServer);
-
-    Servers servers;
-    PresetRig rig;
-    bool came = false;
+    explicit WaitingPresetRig(qint64 ahead = 0)
+        : Waiting(timeAndPresets(), ahead)
+    {
+    }
 };
 
 /// The same with a clock so far ahead that the connected logger turns out to be invalid.
-struct DoubtfulPresetRig : AnsweredRig
+struct DoubtfulPresetRig : WaitingPresetRig
 {
     DoubtfulPresetRig();
 
-    void tellThatItIsInvalid() { answer(TimeWords::leftPort); }
+    void tellThatItIsInvalid() { tellTimeUntil(TimeWords::leftPort); }
 };
 
 /// Does @p action at each file dialog, before that is answered.

@@ -1,6 +1,6 @@
 // Presets in a window that waits for the time, and looks at what opens meanwhile.
 
-#include "answeredrig.h"
+#include "waitingpresetrig.h"
 
 #include <QTest>
 
@@ -15,22 +15,8 @@ PresetTable milkPreset()
     return presetWith(presetOfBasicLogger(), {{QStringLiteral("info"), QStringLiteral("Milk")}});
 }
 
-AnsweredRig::AnsweredRig(qint64 ahead)
-    : rig(timeAndPresets())
-{
-    servers.answer(NtpAnswer::currentTime(ahead).later());
-    if (!QTest::qWaitFor([this] { return servers.requests() > 0; }))
-        qFatal("nobody asks for the time");
-}
-
-void AnsweredRig::answer(const QString& status)
-{
-    servers.release();
-    came = rig.comesTo(status);
-}
-
 DoubtfulPresetRig::DoubtfulPresetRig()
-    : AnsweredRig(threeDays)
+    : WaitingPresetRig(threeDays)
 {
     rig.plugAndConnect();
 }
