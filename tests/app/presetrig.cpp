@@ -157,7 +157,6 @@ PresetRig::PresetRig(const Settings& settings)
     : TimeRig(settings)
     , hand(QString())
     , home("HOME", QDir::currentPath())
-    , configuration("XDG_CONFIG_HOME", QDir::currentPath() + QStringLiteral("/configuration"))
     , documents(QDir::currentPath() + QStringLiteral("/Documents"))
 {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);

@@ -77,6 +77,5 @@ public:
 
     FileDialogHand hand;
     EnvironmentVariable home; ///< the folder of documents is found below it
-    EnvironmentVariable configuration;
     QString documents;
 };

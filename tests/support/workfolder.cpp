@@ -7,6 +7,7 @@
 #include "presets/presetstorage.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFont>
 #include <QGuiApplication>
 
@@ -20,6 +21,14 @@ void writeConfiguration(const Settings& settings)
     PresetFiles::fill(&storage, settings);
     if (!storage.save(configurationName))
         qFatal("the configuration could not be written");
+}
+
+/// The toolkit remembers file dialogs for all programs of a user, in a place that it looks for once in a
+/// program's life.
+void giveTheToolkitAMemory()
+{
+    static const QTemporaryDir memory;
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(memory.path()));
 }
 
 } // namespace
@@ -42,6 +51,7 @@ Settings quietSettingsWith(const Settings& own)
 WorkFolder::WorkFolder(const Settings& settings)
     : before(QDir::currentPath())
 {
+    giveTheToolkitAMemory();
     if (!folder.isValid() || !QDir::setCurrent(folder.path()))
         qFatal("no folder to work in: %s", qPrintable(folder.errorString()));
     if (!settings.isEmpty())
