@@ -54,9 +54,9 @@ void TestButtonIcon::drawing_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<int>("width");
-    for (const char* image : images) {
+    for (const QString path : images) {
         for (const int width : {24, 32, 48, 64})
-            QTest::addRow("%s at %d", image, width) << image << width;
+            QTest::addRow("%s at %d", qPrintable(path), width) << path << width;
     }
 }
 

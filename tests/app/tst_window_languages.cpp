@@ -156,9 +156,9 @@ void TestWindowLanguages::eachLanguageAndSize()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<int>("fontSize");
-    for (const char* language : languages) {
+    for (const QString language : languages) {
         for (const int size : fontSizes)
-            QTest::addRow("%s %d", language, size) << QString::fromLatin1(language) << size;
+            QTest::addRow("%s %d", qPrintable(language), size) << language << size;
     }
 }
 
