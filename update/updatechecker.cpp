@@ -6,7 +6,24 @@
 #include "update/makerweb.h"
 #include "update/versionfile.h"
 
+#include <QCoreApplication>
 #include <QDebug>
+
+namespace {
+
+/// As long as it lives the toolkit finds no plug-ins.
+class WithoutPlugins
+{
+public:
+    WithoutPlugins() { QCoreApplication::setLibraryPaths({}); }
+    ~WithoutPlugins() { QCoreApplication::setLibraryPaths(paths); }
+    Q_DISABLE_COPY_MOVE(WithoutPlugins)
+
+private:
+    const QStringList paths = QCoreApplication::libraryPaths();
+};
+
+} // namespace
 
 UpdateChecker::UpdateChecker(int major, int minor, int patch, QObject* parent)
     : QObject(parent)
@@ -19,6 +36,9 @@ UpdateChecker::UpdateChecker(int major, int minor, int patch, QObject* parent)
 
 void UpdateChecker::check()
 {
+    // The first network access manager would load bearer plug-ins, which ask the system bus for this
+    // computer's networks. One file needs none of that, and the window's first showing waits for it.
+    const WithoutPlugins bearerless;
     downloader = new FileDownloader(makerAddress("/redir/software/versions/brumaloggerconftool"), this);
     connect(downloader, &FileDownloader::downloaded, this, &UpdateChecker::lParseFile);
 }

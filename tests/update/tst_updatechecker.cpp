@@ -5,6 +5,8 @@
 #include "update/filedownloader.h"
 #include "update/updatechecker.h"
 
+#include <QDir>
+#include <QLibraryInfo>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -55,6 +57,7 @@ private slots:
     void otherVersions();
     void isQuietBeforeTheCheck();
     void downloaderLivesWithTheChecker();
+    void loadsNoBearerPlugins();
     void goneInTheMiddle();
 };
 
@@ -184,6 +187,19 @@ void TestUpdateChecker::downloaderLivesWithTheChecker()
     const auto* downloader = desk.checker.findChild<FileDownloader*>();
     QCOMPARE(downloader->parent(), &desk.checker);
     QCOMPARE(downloader->downloadedData(), QByteArray("1.4.0\n"));
+}
+
+void TestUpdateChecker::loadsNoBearerPlugins()
+{
+    QVERIFY(QDir(QLibraryInfo::location(QLibraryInfo::PluginsPath) + "/bearer").exists());
+    const QStringList paths = QCoreApplication::libraryPaths();
+    const WebFolder web;
+    Desk desk;
+    QVERIFY(desk.check());
+    QFile mapped(QStringLiteral("/proc/self/maps"));
+    QVERIFY(mapped.open(QIODevice::ReadOnly));
+    QVERIFY(!mapped.readAll().contains("/bearer/"));
+    QCOMPARE(QCoreApplication::libraryPaths(), paths);
 }
 
 void TestUpdateChecker::goneInTheMiddle()
