@@ -42,6 +42,8 @@ bool MainWindow::plRead()
 {
     deviceLocked = false;
     plDisableControls(true);
+    if (closed) // at a notice about the range, which the focus has just left
+        return false;
     if (modified && plAsk(tr("Read from device"), tr("Reading from the device now will erase your changes.\n"
                                                      "Do you wish to proceed?")) == QMessageBox::No) {
         plDisableControls(false);

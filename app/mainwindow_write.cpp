@@ -34,6 +34,8 @@ bool MainWindow::plWriteToDevice()
         return true;
     }
     plDisableControls(true);
+    if (closed) // likewise at a notice about the range
+        return false;
     ui->statusBar->showMessage(tr("Writing to device..."));
     StepProgress progress(tr("Writing to device"), windowTitleBase, this);
     const bool succeeded = plWriteSteps(progress) != StepResult::Failed; // a cancel is no failure

@@ -123,10 +123,13 @@ private slots:
     void read();
     void windowClosesAtTheNotice_data() { everyWay(); }
     void windowClosesAtTheNotice();
+    void changedWindowClosesAtTheNotice_data() { everyWay(); }
+    void changedWindowClosesAtTheNotice();
     void plugIsPulledAtTheNotice_data() { everyWay(); }
     void plugIsPulledAtTheNotice();
     void deviceIsInvalidAtTheNotice_data() { everyWay(); }
     void deviceIsInvalidAtTheNotice();
+    void deviceIsInvalidWhileTyping();
 
 private:
     static void everyWay();
@@ -213,6 +216,22 @@ void TestMainWindowRangeInterruptions::windowClosesAtTheNotice()
     rig.go(way);
     QCOMPARE(rig.notices, rig.fittingNotice(way));
     QCOMPARE(rig.wire(), QList<QByteArray>());
+    QCOMPARE(rig.takeStatusLog(), QStringList());
+    QCOMPARE(closedWindowRemains(rig), QString());
+}
+
+// The changes that a read would erase were asked about at the close.
+void TestMainWindowRangeInterruptions::changedWindowClosesAtTheNotice()
+{
+    QFETCH(const Way, way);
+    TypingRig rig;
+    rig.begin();
+    rig.type("lineSender", QStringLiteral("x"));
+    rig.atNotice = [&rig] { rig.window.close(); };
+    expectExit(rig.robot, QMessageBox::Yes); // over the notice, and so answered first
+    expectRangeNotice(rig.robot);
+    rig.go(way);
+    QCOMPARE(rig.wire(), QList<QByteArray>());
     QCOMPARE(closedWindowRemains(rig), QString());
 }
 
@@ -264,6 +283,22 @@ void TestMainWindowRangeInterruptions::deviceIsInvalidAtTheNotice()
                          : isRead(way) ? readCommands()
                                        : QList<QByteArray>());
     QCOMPARE(differences(rig, way == WriteKey ? idle(writeFailed, true) : disconnected()), QString());
+}
+
+// Nothing that was typed is of any use, but the boxes are disabled first.
+void TestMainWindowRangeInterruptions::deviceIsInvalidWhileTyping()
+{
+    Servers servers(NtpAnswer::currentTime(threeDays).later());
+    TypingRig rig(timeSettings());
+    servers.awaitRequest();
+    rig.begin();
+    expectRangeNotice(rig.robot);
+    expectInvalidDevice(rig.robot);
+    servers.release();
+    QVERIFY(rig.comesTo(leftPort));
+    QCOMPARE(rig.notices, QStringList("50 to 51*, disabled"));
+    QCOMPARE(rig.wire(), QList<QByteArray>{"m"});
+    QCOMPARE(differences(rig, disconnected()), QString());
 }
 
 QTEST_MAIN(TestMainWindowRangeInterruptions)
