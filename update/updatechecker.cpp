@@ -11,7 +11,7 @@
 
 namespace {
 
-/// As long as it lives the toolkit finds no plug-ins.
+/// As long as it lives the toolkit finds no further plug-ins.
 class WithoutPlugins
 {
 public:
@@ -36,8 +36,8 @@ UpdateChecker::UpdateChecker(int major, int minor, int patch, QObject* parent)
 
 void UpdateChecker::check()
 {
-    // The first network access manager would load bearer plug-ins, which ask the system bus for this
-    // computer's networks. One file needs none of that, and the window's first showing waits for it.
+    // The first network access manager would load bearer plug-ins, which list this computer's networks, also
+    // over the system bus. One file needs none of that, and the window's first showing waits for it.
     const WithoutPlugins bearerless;
     downloader = new FileDownloader(makerAddress("/redir/software/versions/brumaloggerconftool"), this);
     connect(downloader, &FileDownloader::downloaded, this, &UpdateChecker::lParseFile);

@@ -7,6 +7,7 @@
 #include "windowwords.h"
 
 #include <QDateTime>
+#include <QLabel>
 #include <QTest>
 
 using namespace WindowWords;
@@ -26,7 +27,7 @@ private slots:
     void judgesFirmware();
     void keepsToBasicCommands_data();
     void keepsToBasicCommands();
-    void emptiesLinesFirst();
+    void clearsWhatGoesFirst();
     void disablesControls();
     void leavesChangesAfterNo();
     void dropsChangesAfterYes();
@@ -198,13 +199,20 @@ void TestMainWindowRead::keepsToBasicCommands()
     QCOMPARE(differences(rig, disconnected()), QString());
 }
 
-void TestMainWindowRead::emptiesLinesFirst()
+void TestMainWindowRead::clearsWhatGoesFirst()
 {
     ProcedureRig rig;
     rig.plugAndConnect();
+    auto* clock = rig.find<QLabel>("labelDateTime");
+    clock->setStyleSheet(QStringLiteral("font: bold"));
     QStringList atFirstStep;
-    rig.atCommand(2, [&] { atFirstStep = panels(rig); });
+    QString clockStyle;
+    rig.atCommand(2, [&] {
+        atFirstStep = panels(rig);
+        clockStyle = clock->styleSheet();
+    });
     rig.press("buttonRead");
+    QCOMPARE(clockStyle, QString());
     QCOMPARE(atFirstStep, panelsWith(panelsOfBasicLogger(),
                                      {"lineSender = ", "lineRecipient = ", "lineInfo = ", "lineBarcode = "}));
     QCOMPARE(differences(rig, idle(QStringLiteral("Read successful"), false)), QString());

@@ -2,6 +2,7 @@
 
 #include "connectiondesk.h"
 #include "devicerig.h"
+#include "storedfields.h"
 
 #include "support/localzone.h"
 #include "support/loglines.h"
@@ -196,13 +197,22 @@ void TestBrumaloggerInterfaceConnection::disconnecting()
 {
     ConnectionDesk desk;
     QVERIFY(desk.link.lConnect(ownPortName()));
+    QVERIFY(desk.link.lGetIdentification(nullptr, nullptr, nullptr));
     QVERIFY(desk.link.lGetSamplingTime(nullptr));
+    QVERIFY(desk.link.lGetTimeZoneOffset(nullptr));
+    QVERIFY(desk.link.lGetPolicies(nullptr));
+    QVERIFY(desk.link.lGetText(2, nullptr));
     const LogLines log;
     desk.link.lDisconnect();
     QVERIFY(!desk.link.lIsConnected());
     QVERIFY(!desk.port()->isOpen());
     QCOMPARE(log.all(), QStringList({disconnectedLine(ownPortName())}));
-    QCOMPARE(desk.link.lSamplingTime(), 660); // what was read stays
+    // What was read stays.
+    QCOMPARE(desk.link.lFirmwareVersion(), QStringLiteral("1.2.0"));
+    QCOMPARE(desk.link.lSamplingTime(), 660);
+    QCOMPARE(desk.link.lTimeZoneOffset(), -10800);
+    QCOMPARE(desk.link.*memberOf(Policies()), 8195);
+    QCOMPARE((desk.link.*memberOf(Texts())).value(2), QStringLiteral("Batch 7"));
 }
 
 void TestBrumaloggerInterfaceConnection::disconnectingAClosedLink()

@@ -2,6 +2,7 @@
 // back.
 
 #include "devicerig.h"
+#include "storedfields.h"
 
 #include "support/testclock.h"
 
@@ -202,6 +203,8 @@ void TestBrumaloggerInterfaceModel::settingChangesNothingRead()
     QVERIFY(link.lGetTimeZoneOffset(nullptr));
     QVERIFY(link.lGetDateTime(nullptr));
     const int timestamp = link.lTimestamp();
+    QVERIFY(link.lGetPolicies(nullptr));
+    QVERIFY(link.lGetText(2, nullptr));
 
     QVERIFY(link.lSetTempRange(2, 8));
     QVERIFY(link.lSetSamplingTime(60));
@@ -209,6 +212,8 @@ void TestBrumaloggerInterfaceModel::settingChangesNothingRead()
     QVERIFY(link.lSetButtonLock(false));
     QVERIFY(link.lSetTimeZoneOffset(7200));
     QVERIFY(link.lSetDateTime(utc(1750000000)));
+    QVERIFY(link.lSetPolicies(1));
+    QVERIFY(link.lSetText(2, QStringLiteral("Batch 8"), 60));
     QCOMPARE(link.lTempMin(), -20.5F);
     QCOMPARE(link.lTempMax(), 6.25F);
     QCOMPARE(link.lSamplingTime(), 660);
@@ -217,6 +222,8 @@ void TestBrumaloggerInterfaceModel::settingChangesNothingRead()
     QCOMPARE(link.lTimeZoneOffset(), -10800);
     QCOMPARE(link.lTimestamp(), timestamp);
     QVERIFY(qAbs(link.lDeviceDateTime().toSecsSinceEpoch() - timestamp) < 60);
+    QCOMPARE(link.*memberOf(Policies()), 8195);
+    QCOMPARE((link.*memberOf(Texts())).value(2), QStringLiteral("Batch 7"));
 }
 
 void TestBrumaloggerInterfaceModel::basicFirmwareHasNoExtendedCommands()

@@ -193,6 +193,7 @@ void TestUpdateChecker::loadsNoBearerPlugins()
 {
     QVERIFY(QDir(QLibraryInfo::location(QLibraryInfo::PluginsPath) + "/bearer").exists());
     const QStringList paths = QCoreApplication::libraryPaths();
+    QVERIFY(!paths.isEmpty());
     const WebFolder web;
     Desk desk;
     QVERIFY(desk.check());
