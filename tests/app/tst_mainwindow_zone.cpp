@@ -14,7 +14,9 @@ namespace {
 QDateTime shownTime(const ProcedureRig& rig)
 {
     QDateTime time =
-        QLocale::c().toDateTime(rig.text("labelDateTime"), QStringLiteral("hh:mm:ss dd/MMM/yyyy"));
+        QLocale::system().toDateTime(rig.text("labelDateTime"), QStringLiteral("hh:mm:ss dd/MMM/yyyy"));
+    if (!time.isValid())
+        qFatal("the clock on display can't be read: %s", qPrintable(rig.text("labelDateTime")));
     time.setTimeSpec(Qt::UTC);
     return time;
 }
