@@ -15,7 +15,6 @@ namespace {
 
 constexpr qint64 replyWait = 75;
 constexpr int arrivalLimit = 20; // ms; the kernel needs microseconds to carry a reply to the reader's end
-constexpr int lookInterval = 1;
 
 } // namespace
 
@@ -26,7 +25,6 @@ QuickWire::QuickWire(SimulatedPort* port)
 {
     if (readerEnd < 0)
         qFatal("the simulated logger's line can't be watched");
-    timer.setInterval(lookInterval);
     connect(&timer, &QTimer::timeout, this, &QuickWire::lookWhetherTaken);
     connect(port, &SimulatedPort::sCommandReceived, this, &QuickWire::onCommand);
     connect(port, &SimulatedPort::sAnswered, this, &QuickWire::onAnswered);

@@ -27,7 +27,7 @@ private:
 
     SimulatedPort* port;
     int readerEnd;
-    QTimer timer;
+    QTimer timer;        ///< at every turn of the event loop
     qint64 received = 0; ///< when the command under way came in
     bool disturbed = false;
     bool disturbedBefore = false;
