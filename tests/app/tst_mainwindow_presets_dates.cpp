@@ -22,19 +22,20 @@ struct Which
     QString key;
     const char* box;
     QString (*shown)(const WindowRig& rig);
-    QString before;   ///< as secureLogger() has it
-    QString proposal; ///< two hours ahead of Greenwich at noon of the rig's day
+    QString before;     ///< as secureLogger() has it
+    QDateTime proposal; ///< two hours ahead of Greenwich at noon of the rig's day
 };
 
+const QDateTime noon(QDate(2024, 5, 15), QTime(12, 0), Qt::UTC);
 const Which start{
-    QStringLiteral("startdate_en"),           QStringLiteral("startdate"),        "checkStartDate", startDate,
-    QStringLiteral("on 08:00:00 16/05/2024"), QStringLiteral("20:00 15/May/2024")};
+    QStringLiteral("startdate_en"),           QStringLiteral("startdate"), "checkStartDate", startDate,
+    QStringLiteral("on 08:00:00 16/05/2024"), noon.addSecs(8 * 3600)};
 const Which stop{QStringLiteral("stopdate_en"),
                  QStringLiteral("stopdate"),
                  "checkStopDate",
                  stopDate,
                  QStringLiteral("on 09:00:00 20/05/2024"),
-                 QStringLiteral("14:00 16/May/2024")};
+                 noon.addSecs(26 * 3600)};
 
 /// Switches the date on in its dialog and tells what is then beside it.
 QString switchedOn(const PresetRig& rig, const Which& which)
@@ -155,7 +156,8 @@ void TestMainWindowPresetsDates::switchedOffIsReset()
     PresetRig rig;
     rig.plugAndConnect(secureLogger());
     rig.apply({{which.enableKey, enabled}, {which.key, date}});
-    QCOMPARE(switchedOn(rig, which), which.proposal + QStringLiteral(" (GMT+2:00)"));
+    QCOMPARE(switchedOn(rig, which),
+             which.proposal.toString(QStringLiteral("hh:mm dd/MMM/yyyy' (GMT+2:00)'")));
 }
 
 void TestMainWindowPresetsDates::computersZoneDoesNotMatter_data()

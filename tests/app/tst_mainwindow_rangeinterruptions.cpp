@@ -71,7 +71,7 @@ public:
         box->setFocus();
         box->selectAll();
         QTest::keyClick(box, Qt::Key_Delete);
-        QTest::keyClicks(box, QLatin1String(typed.text));
+        QTest::keyClicks(box, QString(typed.text).replace(QLatin1Char('.'), box->locale().decimalPoint()));
         takeStatusLog();
         QObject::connect(&robot, &DialogRobot::sBoxOpened, &window, [this](const QString& title) {
             // A warning of that title is another one.
