@@ -34,7 +34,7 @@ bool MainWindow::plWriteToDevice()
         return true;
     }
     plDisableControls(true);
-    if (closed) // likewise at a notice about the range
+    if (closed) // at a notice about the range, which the focus has just left
         return false;
     ui->statusBar->showMessage(tr("Writing to device..."));
     StepProgress progress(tr("Writing to device"), windowTitleBase, this);

@@ -53,10 +53,11 @@ void QuickWire::onAnswered(int exchange)
 
 void QuickWire::lookWhetherTaken()
 {
-    if (holdsReply(0))
+    const qint64 rest = received + replyWait - QDateTime::currentMSecsSinceEpoch();
+    if (rest > 0 && holdsReply(0))
         return;
-    timer.stop();
-    TestClock::shift(qMax<qint64>(0, received + replyWait - QDateTime::currentMSecsSinceEpoch()));
+    timer.stop(); // also where nobody takes it, since the line was closed
+    TestClock::shift(qMax<qint64>(0, rest));
 }
 
 bool QuickWire::holdsReply(int timeout) const

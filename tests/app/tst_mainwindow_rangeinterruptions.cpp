@@ -232,6 +232,7 @@ void TestMainWindowRangeInterruptions::changedWindowClosesAtTheNotice()
     expectRangeNotice(rig.robot);
     rig.go(way);
     QCOMPARE(rig.wire(), QList<QByteArray>());
+    QCOMPARE(rig.takeStatusLog(), QStringList());
     QCOMPARE(closedWindowRemains(rig), QString());
 }
 
