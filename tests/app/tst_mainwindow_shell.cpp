@@ -9,6 +9,7 @@
 #include "windowstate.h"
 #include "windowwords.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
@@ -98,6 +99,7 @@ class TestMainWindowShell : public QObject
 
 private slots:
     void firstShowClearsThePanels();
+    void firstShowMakesNoLists();
     void laterShowsDoNothing();
     void disconnectClearsThePanels();
     void disconnectClearsNumbers_data();
@@ -129,6 +131,18 @@ void TestMainWindowShell::firstShowClearsThePanels()
     QCOMPARE(line->text(), QString());
     QCOMPARE(combo->currentIndex(), 0);
     QVERIFY(!line->isEnabled());
+}
+
+// Lists of boxes that nobody opened would take their part of the start's time and memory.
+void TestMainWindowShell::firstShowMakesNoLists()
+{
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const auto boxes = window.findChildren<QComboBox*>();
+    QCOMPARE(boxes.size(), 7);
+    for (const QComboBox* box : boxes)
+        QVERIFY2(box->findChild<QAbstractItemView*>() == nullptr, qPrintable(box->objectName()));
 }
 
 void TestMainWindowShell::laterShowsDoNothing()
