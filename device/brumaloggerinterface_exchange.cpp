@@ -18,7 +18,7 @@ constexpr int spinSlice = 10;
 /// A clock that went back further than any correction of it has passed midnight.
 constexpr int largestCorrection = 3600 * 1000;
 
-// True once the plug was pulled.
+// True once the plug was pulled, false without a line.
 bool isHungUp(int line)
 {
     pollfd query{line, POLLIN, 0};
@@ -36,6 +36,8 @@ BrumaloggerInterface::BrumaloggerInterface(QObject* parent)
     connect(port, &QIODevice::readyRead, this, &BrumaloggerInterface::plOnReadyRead);
     connect(port, QOverload<QSerialPort::SerialPortError>::of(&QSerialPort::error), this,
             &BrumaloggerInterface::plOnPortError);
+    connect(port, QOverload<QSerialPort::SerialPortError>::of(&QSerialPort::error), this,
+            &BrumaloggerInterface::plStopAsking);
 }
 
 void BrumaloggerInterface::lSetFastMode(bool fast)
@@ -108,14 +110,14 @@ void BrumaloggerInterface::plOnPortError(QSerialPort::SerialPortError error)
 {
     if (error == QSerialPort::ReadError)
         qWarning() << QObject::tr("I/O error when reading %1: %2").arg(port->portName(), port->errorString());
-    if (error != QSerialPort::NoError && isHungUp(port->handle()))
-        plStopAsking();
 }
 
 // A line that was hung up is ready at every turn of the event loop, and the port would read or write and fail
 // each time, until it is closed.
 void BrumaloggerInterface::plStopAsking()
 {
+    if (!isHungUp(port->handle()))
+        return;
     for (QSocketNotifier* notifier : port->findChildren<QSocketNotifier*>())
         notifier->setEnabled(false);
 }
