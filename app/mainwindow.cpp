@@ -128,6 +128,9 @@ MainWindow::MainWindow(QWidget* parent)
 
 MainWindow::~MainWindow()
 {
+    // A range that has the focus loses it when no more than a plain widget is left of the window.
+    ui->spindTempMin->disconnect(this);
+    ui->spindTempMax->disconnect(this);
     delete ui;
 }
 

@@ -82,9 +82,9 @@ void AdvancedOptionsDialog::plConnectSignals()
 {
     using Dialog = AdvancedOptionsDialog;
     connect(ui->buttonShow, &QPushButton::pressed, ui->linePassw,
-            [this] { ui->linePassw->setEchoMode(QLineEdit::Normal); });
+            [field = ui->linePassw] { field->setEchoMode(QLineEdit::Normal); });
     connect(ui->buttonShow, &QPushButton::released, ui->linePassw,
-            [this] { ui->linePassw->setEchoMode(QLineEdit::Password); });
+            [field = ui->linePassw] { field->setEchoMode(QLineEdit::Password); });
     connect(ui->linePassw, &QLineEdit::textChanged, this, &Dialog::plCheckForPasswTruncation);
     for (const QAbstractButton* option : std::initializer_list<QAbstractButton*>{
              ui->checkConfigPassw, ui->radioPasswAlways, ui->radioPasswOnce, ui->radioPasswNone})

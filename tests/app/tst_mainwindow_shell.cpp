@@ -3,6 +3,7 @@
 #include "formrows.h"
 #include "procedurerig.h"
 #include "support/browser.h"
+#include "support/dialogrobot.h"
 #include "support/privatemember.h"
 #include "support/testclock.h"
 #include "time/timekeeper.h"
@@ -10,13 +11,16 @@
 #include "windowwords.h"
 
 #include <QAbstractItemView>
+#include <QAbstractSpinBox>
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 struct ClearDeviceInfo
@@ -91,6 +95,15 @@ QDateTime shownTime(const WindowRig& rig)
                      QTime::fromString(text.left(8), QStringLiteral("hh:mm:ss")), Qt::UTC);
 }
 
+/// Two seconds by a clock that ticks like the window's.
+void awaitTwoTicks()
+{
+    const TimeKeeper another;
+    QSignalSpy ticks(&another, &TimeKeeper::sUpdate);
+    while (ticks.size() < 2)
+        QVERIFY(ticks.wait());
+}
+
 } // namespace
 
 class TestMainWindowShell : public QObject
@@ -111,8 +124,11 @@ private slots:
     void keysOfDisabledButtons_data();
     void keysOfDisabledButtons();
     void keysOfEnabledButtons();
+    void clockStandsUntilTheFirstConnect();
     void clockTicksWhileConnected();
     void clockStopsWithDisconnect();
+    void destroyedWindowSaysAndSavesNothing_data();
+    void destroyedWindowSaysAndSavesNothing();
     void onlineHelp();
 };
 
@@ -304,6 +320,16 @@ void TestMainWindowShell::keysOfEnabledButtons()
     QCOMPARE(rig.robot.problems(), QString());
 }
 
+void TestMainWindowShell::clockStandsUntilTheFirstConnect()
+{
+    TestClock::reset();
+    const MainWindow window;
+    const QLabel* label = child<QLabel>(window, "labelDateTime");
+    const QString before = label->text();
+    awaitTwoTicks();
+    QCOMPARE(label->text(), before);
+}
+
 void TestMainWindowShell::clockTicksWhileConnected()
 {
     ProcedureRig rig;
@@ -331,12 +357,40 @@ void TestMainWindowShell::clockStopsWithDisconnect()
     rig.plugAndConnect();
     TestClock::reset();
     rig.press("buttonConnect");
-    const TimeKeeper another;
-    QSignalSpy ticks(&another, &TimeKeeper::sUpdate);
-    while (ticks.size() < 2)
-        QVERIFY(ticks.wait());
+    awaitTwoTicks();
     QCOMPARE(rig.text("labelDateTime"), nothing);
     QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowShell::destroyedWindowSaysAndSavesNothing_data()
+{
+    QTest::addColumn<QByteArray>("focus");
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("minimum") << QByteArray("spindTempMin") << QStringLiteral("79");
+    QTest::newRow("maximum") << QByteArray("spindTempMax") << QStringLiteral("-29");
+}
+
+// Changed, still on show, and the focus in a range that gets a notice when it is left.
+void TestMainWindowShell::destroyedWindowSaysAndSavesNothing()
+{
+    QFETCH(const QByteArray, focus);
+    QFETCH(const QString, typed);
+    const DialogRobot robot;
+    auto rig = std::make_unique<ProcedureRig>();
+    rig->plugAndConnect(customLogger());
+    rig->activate();
+    rig->type("lineInfo", QStringLiteral("changed"));
+    auto* range = rig->find<QAbstractSpinBox>(focus);
+    range->setFocus();
+    QVERIFY(range->hasFocus());
+    range->selectAll();
+    QTest::keyClicks(range, typed);
+    QVERIFY(rig->isModified());
+    const QTemporaryDir folder;
+    QVERIFY(QDir::setCurrent(folder.path())); // what is saved from now on is saved here
+    rig.reset();
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList());
+    QCOMPARE(robot.problems(), QString());
 }
 
 void TestMainWindowShell::onlineHelp()

@@ -54,6 +54,7 @@ private slots:
     void storedPasswordStaysWithoutOptions();
     void showsWhileHeldDown();
     void spaceBarShowsAsWell();
+    void destroyedWhileHeldDown();
     void disclaimer_data();
     void disclaimer();
     void enterAccepts();
@@ -178,6 +179,21 @@ void TestAdvancedOptionsDialogPassword::spaceBarShowsAsWell()
     QCOMPARE(desk.passwordField()->echoMode(), QLineEdit::Normal);
     QTest::keyRelease(desk.button("buttonShow"), Qt::Key_Space);
     QCOMPARE(desk.passwordField()->echoMode(), QLineEdit::Password);
+}
+
+// The end of the dialog takes the focus from the button, which is a release.
+void TestAdvancedOptionsDialogPassword::destroyedWhileHeldDown()
+{
+    int releases = 0;
+    {
+        AdvancedDesk desk;
+        desk.open();
+        desk.check("checkConfigPassw");
+        connect(desk.button("buttonShow"), &QAbstractButton::released, qApp, [&releases] { ++releases; });
+        QTest::mousePress(desk.button("buttonShow"), Qt::LeftButton);
+        QVERIFY(desk.button("buttonShow")->hasFocus());
+    }
+    QCOMPARE(releases, 1);
 }
 
 void TestAdvancedOptionsDialogPassword::disclaimer_data()
