@@ -184,6 +184,9 @@ void MainWindow::plValidateTempRange()
     const auto max = static_cast<float>(ui->spindTempMax->value());
     if (min + smallestSpan > max) {
         ui->spindTempMax->setValue(min + smallestSpan);
+        // The notice takes the focus. That would end the editing once more, with a second notice on top.
+        const QSignalBlocker quietMinimum(ui->spindTempMin);
+        const QSignalBlocker quietMaximum(ui->spindTempMax);
         plInform(tr("Notice"), tr("Maximum temperature must be at least\n"
                                   "one degree higher than minimum temperature."));
     }

@@ -49,6 +49,8 @@ private slots:
     void validatesTypedRange_data();
     void validatesTypedRange();
     void validatesWhenTheBoxIsLeft();
+    void noticeIsNotDoubled_data();
+    void noticeIsNotDoubled();
     void validRangeThatTheLoggerCannotTake();
     void disconnectingWithTheFocusInTheRange();
     void closingWithAHalfTypedRange();
@@ -186,6 +188,32 @@ void TestMainWindowRange::validatesWhenTheBoxIsLeft()
     expectRangeNotice(rig.robot);
     rig.find<QWidget>("lineInfo")->setFocus();
     QCOMPARE(panel.range(), QStringLiteral("2.5* to 3.5*"));
+    QCOMPARE(rig.robot.problems(), QString());
+}
+
+void TestMainWindowRange::noticeIsNotDoubled_data()
+{
+    QTest::addColumn<int>("min");
+    QTest::addColumn<QByteArray>("edited");
+    QTest::addColumn<double>("number");
+    QTest::newRow("minimum") << -30000 << QByteArray("spindTempMin") << -16.97;
+    QTest::newRow("maximum") << -16970 << QByteArray("spindTempMax") << -20.0;
+}
+
+// As 32-bit numbers these are a little less than a degree apart, and the notice takes the focus.
+void TestMainWindowRange::noticeIsNotDoubled()
+{
+    QFETCH(const int, min);
+    QFETCH(const QByteArray, edited);
+    QFETCH(const double, number);
+    ProcedureRig rig;
+    rig.plugAndConnect(loggerWithRange(min, -17000));
+    rig.activate();
+    rig.find<QDoubleSpinBox>(edited)->setFocus();
+    const Panel panel(rig);
+    expectRangeNotice(rig.robot);
+    panel.type(edited, number);
+    QCOMPARE(panel.range(), QStringLiteral("-16.97* to -15.97*"));
     QCOMPARE(rig.robot.problems(), QString());
 }
 
