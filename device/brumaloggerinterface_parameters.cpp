@@ -33,7 +33,9 @@ float degreesFromField(QString field)
 {
     const float sign = field.contains(QLatin1Char('-')) ? -1.0F : 1.0F;
     field.remove(QLatin1Char('-'));
-    return sign * field.toFloat() / thousandths;
+    bool converted = false;
+    const float number = field.toFloat(&converted); // infinite where it is too large
+    return converted ? sign * number / thousandths : 0.0F;
 }
 
 // Cut, not rounded: 2.3 as a 32-bit float lies just below and goes out as 2299.

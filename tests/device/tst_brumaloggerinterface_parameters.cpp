@@ -67,6 +67,7 @@ void TestBrumaloggerInterfaceParameters::temperatures_data()
     QTest::newRow("a fraction") << QByteArray("2000.5,8000") << 2.0005F << 8.0F;
     QTest::newRow("no numbers") << QByteArray("cold,-hot") << 0.0F << 0.0F;
     QTest::newRow("one number") << QByteArray("2000,8000C") << 2.0F << 0.0F;
+    QTest::newRow("beyond 32-bit floats") << QByteArray("1e50,-1e39") << 0.0F << 0.0F;
     QTest::newRow("empty fields") << QByteArray(",") << 0.0F << 0.0F;
     QTest::newRow("in wrong order") << QByteArray("8000,2000") << 8.0F << 2.0F;
 }
