@@ -244,6 +244,9 @@ void TestBrumaloggerInterfaceFailures::otherErrorsAreIgnored_data()
     QTest::newRow("permission") << QSerialPort::PermissionError;
     QTest::newRow("open") << QSerialPort::OpenError;
     QTest::newRow("not open") << QSerialPort::NotOpenError;
+    QTest::newRow("parity") << QSerialPort::ParityError;
+    QTest::newRow("framing") << QSerialPort::FramingError;
+    QTest::newRow("break") << QSerialPort::BreakConditionError;
     QTest::newRow("write") << QSerialPort::WriteError;
     QTest::newRow("resource") << QSerialPort::ResourceError;
     QTest::newRow("unsupported") << QSerialPort::UnsupportedOperationError;

@@ -262,6 +262,7 @@ void TestBrumaloggerInterfacePolicies::writtenDate_data()
     rows("enabled", true, utc(1900000000), "1900000000");
     rows("enabled, ten digits", true, utc(86400), "0000086400");
     rows("enabled, in another zone", true, utc(1900000000).toOffsetFromUtc(7200), "1900000000");
+    rows("enabled, cut to 32 bits", true, utc(4000000000), "-294967296");
     rows("disabled", false, utc(1900000000), "0000000000");
     rows("disabled without a date", false, {}, "0000000000");
 }
