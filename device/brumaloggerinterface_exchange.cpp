@@ -3,6 +3,7 @@
 #include "device/brumaloggerinterface.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDebug>
 #include <QScopedValueRollback>
 #include <QSocketNotifier>
@@ -15,8 +16,6 @@ namespace {
 constexpr int fastWait = 75;
 constexpr int slowWait = 150;
 constexpr int spinSlice = 10;
-/// A clock that went back further than any correction of it has passed midnight.
-constexpr int largestCorrection = 3600 * 1000;
 
 // True once the plug was pulled, false without a line.
 bool isHungUp(int line)
@@ -46,13 +45,14 @@ void BrumaloggerInterface::lSetFastMode(bool fast)
     waitTime = fast ? fastWait : slowWait;
 }
 
-// The one place where the program waits. A deadline that wraps at midnight lies before the present time and
-// ends the wait at once; so does one that lies far ahead because a box stayed open over midnight.
+// The one place where the program waits. The deadline is a time of the day on which the wait began. One that
+// wraps at midnight has passed at once, and so has one of yesterday, when a box stayed open over midnight.
 void BrumaloggerInterface::lWait(int msecs)
 {
-    const QTime deadline = QTime::currentTime().addMSecs(msecs);
-    const auto left = [deadline] { return QTime::currentTime().msecsTo(deadline); };
-    for (int rest = left(); rest > 0 && rest <= msecs + largestCorrection; rest = left())
+    const QDateTime start = QDateTime::currentDateTime();
+    const QTime deadline = start.time().addMSecs(msecs);
+    for (QDateTime now = start; now.date() == start.date() && now.time() < deadline;
+         now = QDateTime::currentDateTime())
         QCoreApplication::processEvents(QEventLoop::AllEvents, spinSlice);
 }
 
