@@ -3,7 +3,6 @@
 #include "device/brumaloggerinterface.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QDebug>
 #include <QScopedValueRollback>
 #include <QSocketNotifier>
@@ -45,14 +44,12 @@ void BrumaloggerInterface::lSetFastMode(bool fast)
     waitTime = fast ? fastWait : slowWait;
 }
 
-// The one place where the program waits. The deadline is a time of the day on which the wait began. One that
-// wraps at midnight has passed at once, and so has one of yesterday, when a box stayed open over midnight.
+// The one place where the program waits. The deadline is a time of day: one that wraps at midnight has passed at
+// once, and a wait held up over midnight goes on until that time comes again.
 void BrumaloggerInterface::lWait(int msecs)
 {
-    const QDateTime start = QDateTime::currentDateTime();
-    const QTime deadline = start.time().addMSecs(msecs);
-    for (QDateTime now = start; now.date() == start.date() && now.time() < deadline;
-         now = QDateTime::currentDateTime())
+    const QTime deadline = QTime::currentTime().addMSecs(msecs);
+    while (QTime::currentTime() < deadline)
         QCoreApplication::processEvents(QEventLoop::AllEvents, spinSlice);
 }
 
