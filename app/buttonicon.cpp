@@ -1,26 +1,21 @@
-// The images of the buttons, each of which the program carries in two sizes.
+// The images of the buttons, cut down to what a button shows.
 
 #include "app/buttonicon.h"
 
+#include <QImage>
 #include <QPixmap>
-#include <QString>
 
 namespace {
 
-constexpr int smallWidth = 48;
-
-/// The image of smallWidth that goes with the one at @p path.
-QString smallImage(const QString& path)
-{
-    const int suffix = path.lastIndexOf(QLatin1Char('.'));
-    return path.left(suffix) + QLatin1Char('_') + QString::number(smallWidth) + path.mid(suffix);
-}
+/// The images are first thinned out to this many times the size: averaging all of their pixels would cost
+/// more than unpacking them.
+constexpr int oversampling = 6;
 
 } // namespace
 
 QIcon buttonIcon(const QString& path, QSize size)
 {
-    const bool large = qMax(size.width(), size.height()) > smallWidth;
     // Naming the format spares the toolkit a look through its image plug-ins.
-    return {QPixmap(large ? path : smallImage(path), "PNG")};
+    const QImage coarse = QImage(path, "PNG").scaled(size * oversampling, Qt::KeepAspectRatio);
+    return {QPixmap::fromImage(coarse.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation))};
 }

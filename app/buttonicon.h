@@ -5,6 +5,6 @@
 
 class QString;
 
-/// The button image at @p path for buttons that show it in @p size. The image is large; unpacking it where
-/// the small one beside it will do would cost the start time and memory.
+/// The button image at @p path, cut down to @p size. The images are large; keeping them whole, as an icon
+/// read from a file does, would cost the start time and megabytes.
 QIcon buttonIcon(const QString& path, QSize size);

@@ -1,5 +1,4 @@
-// The icon of a button: from the small image where that will do, from the large one where not, and the same
-// drawing in both.
+// The icon of a button: no larger than it is shown, and its own drawing at every size.
 
 #include "app/buttonicon.h"
 #include "windowstate.h"
@@ -34,20 +33,22 @@ void TestButtonIcon::initTestCase()
 
 void TestButtonIcon::size_data()
 {
+    QTest::addColumn<QString>("path");
     QTest::addColumn<QSize>("shown");
-    QTest::addColumn<QSize>("unpacked");
-    QTest::newRow("usual") << QSize(24, 24) << QSize(48, 48);
-    QTest::newRow("largest small") << QSize(48, 48) << QSize(48, 48);
-    QTest::newRow("a little wider") << QSize(49, 48) << QSize(408, 409);
-    QTest::newRow("a little higher") << QSize(48, 49) << QSize(408, 409);
+    QTest::addColumn<QSize>("kept");
+    QTest::newRow("square") << ":/icon_load.png" << QSize(24, 24) << QSize(24, 24);
+    QTest::newRow("a little higher") << ":/icon_read.png" << QSize(24, 24) << QSize(23, 24);
+    QTest::newRow("in a wide place") << ":/icon_load.png" << QSize(48, 32) << QSize(32, 32);
+    QTest::newRow("in a high place") << ":/icon_load.png" << QSize(32, 48) << QSize(32, 32);
+    QTest::newRow("whole") << ":/icon_read.png" << QSize(408, 409) << QSize(408, 409);
 }
 
 void TestButtonIcon::size()
 {
+    QFETCH(const QString, path);
     QFETCH(const QSize, shown);
-    const QIcon icon = buttonIcon(QStringLiteral(":/icon_read.png"), shown);
-    QCOMPARE(icon.availableSizes().size(), 1);
-    QTEST(icon.availableSizes().constFirst(), "unpacked");
+    QFETCH(const QSize, kept);
+    QCOMPARE(buttonIcon(path, shown).availableSizes(), {kept});
 }
 
 void TestButtonIcon::drawing_data()

@@ -53,8 +53,6 @@ void TestResourcesImages::image_data()
     QTest::newRow(":/icon_write.png") << QSize(408, 409);
     QTest::newRow(":/icon_load.png") << QSize(408, 408);
     QTest::newRow(":/icon_start.png") << QSize(408, 409);
-    for (const char* button : {"connect", "disconnect", "read", "write", "load", "start"})
-        QTest::addRow(":/icon_%s_48.png", button) << QSize(48, 48);
     QTest::newRow(":/logo_prw_nobg.png") << QSize(1143, 380);
 }
 
