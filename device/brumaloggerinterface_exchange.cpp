@@ -44,8 +44,8 @@ void BrumaloggerInterface::lSetFastMode(bool fast)
     waitTime = fast ? fastWait : slowWait;
 }
 
-// The one place where the program waits. The deadline is a time of day: one that wraps at midnight has passed at
-// once, and a wait held up over midnight goes on until that time comes again.
+// The one place where the program waits. The deadline is a time of day: one that wraps at midnight has passed
+// at once, and a wait held up over midnight goes on until that time comes again.
 void BrumaloggerInterface::lWait(int msecs)
 {
     const QTime deadline = QTime::currentTime().addMSecs(msecs);
