@@ -79,6 +79,14 @@ QByteArray addDevice(UMockdevTestbed* testbed, const char* subsystem, const QByt
                                                  attributes.data(), pointers.data()));
 }
 
+// The library starts the tree's thread, which reads the environment, and only then names the tree's folder
+// there. A new name moves the environment in memory; a new value doesn't, so the name is made before.
+UMockdevTestbed* newTestbed()
+{
+    qputenv("UMOCKDEV_DIR", "");
+    return umockdev_testbed_new();
+}
+
 } // namespace
 
 bool MockUsbTree::isUsable()
@@ -98,7 +106,7 @@ MockUsbTree& MockUsbTree::instance()
 }
 
 MockUsbTree::MockUsbTree()
-    : testbed(umockdev_testbed_new())
+    : testbed(newTestbed())
 {
     mkdir((root() + "/dev").constData(), 0755);
 }

@@ -136,27 +136,11 @@ Settings timeAndPresets()
     return settings;
 }
 
-EnvironmentVariable::EnvironmentVariable(const char* name, const QString& value)
-    : name(name)
-    , wasSet(qEnvironmentVariableIsSet(name))
-    , before(qgetenv(name))
-{
-    qputenv(name, QFile::encodeName(value));
-}
-
-EnvironmentVariable::~EnvironmentVariable()
-{
-    if (wasSet)
-        qputenv(name, before);
-    else
-        qunsetenv(name);
-}
-
 // The toolkit's own file dialogs are the same on every desktop.
 PresetRig::PresetRig(const Settings& settings)
     : TimeRig(settings)
     , hand(QString())
-    , home("HOME", QDir::currentPath())
+    , home("HOME", QFile::encodeName(QDir::currentPath()))
     , documents(QDir::currentPath() + QStringLiteral("/Documents"))
 {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/environmentvariable.h"
 #include "support/filedialoghand.h"
 #include "timerig.h"
 
@@ -42,21 +43,6 @@ Settings presetSettings();
 /// The same with time configuration on.
 Settings timeAndPresets();
 const QString defaultPreset = QStringLiteral("default.bpr");
-
-/// Sets an environment variable as long as it lives.
-class EnvironmentVariable
-{
-public:
-    EnvironmentVariable(const char* name, const QString& value);
-    ~EnvironmentVariable();
-    EnvironmentVariable(const EnvironmentVariable&) = delete;
-    EnvironmentVariable& operator=(const EnvironmentVariable&) = delete;
-
-private:
-    const char* name;
-    bool wasSet;
-    QByteArray before;
-};
 
 /// A window beside a folder of documents, and a hand for its file dialogs.
 class PresetRig : public TimeRig

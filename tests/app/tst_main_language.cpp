@@ -6,6 +6,7 @@
 #include "app/mainwindow.h"
 #include "dialogs/settingsdialog.h"
 #include "support/child.h"
+#include "support/environmentvariable.h"
 #include "support/loglines.h"
 #include "support/nextchance.h"
 #include "support/workfolder.h"
@@ -161,12 +162,13 @@ private slots:
 
 private:
     QTemporaryDir folder;
+    // Without such a place the toolkit warns.
+    const EnvironmentVariable runtimePlace{"XDG_RUNTIME_DIR", QFile::encodeName(folder.path())};
     QString marked;
 };
 
 void TestMainLanguage::initTestCase()
 {
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder.path())); // without one the toolkit warns
     marked = folder.filePath(QStringLiteral("marked.qm"));
     MarkedTranslation::compile(marked);
 }

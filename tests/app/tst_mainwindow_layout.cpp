@@ -88,6 +88,7 @@ class TestMainWindowLayout : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { makeMockHardware(); }
     void grid_data();
     void grid();
     void groups();

@@ -3,13 +3,12 @@
 #include "dialogs/advancedoptionsdialog.h"
 #include "extendedrig.h"
 #include "presetrig.h"
+#include "support/environmentvariable.h"
 #include "support/loglines.h"
 #include "support/nextchance.h"
 
 #include <QAbstractButton>
 #include <QTest>
-
-#include <ctime>
 
 namespace {
 
@@ -52,20 +51,6 @@ QString switchedOn(const PresetRig& rig, const Which& which)
     return text.section(QStringLiteral(": "), 1);
 }
 
-/// The computer's zone, as long as it lives.
-class ComputerZone
-{
-public:
-    explicit ComputerZone(const char* name)
-        : variable("TZ", QString::fromLatin1(name))
-    {
-        tzset();
-    }
-
-private:
-    EnvironmentVariable variable;
-};
-
 } // namespace
 
 class TestMainWindowPresetsDates : public QObject
@@ -73,7 +58,6 @@ class TestMainWindowPresetsDates : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup() { tzset(); }
     void either_data();
     void either();
     void switchedOffIsReset_data();
@@ -176,12 +160,12 @@ void TestMainWindowPresetsDates::computersZoneDoesNotMatter()
     PresetRig rig;
     rig.plugAndConnect(secureLogger());
     {
-        const ComputerZone zone(savedIn);
+        const LocalZone zone(savedIn);
         rig.save(rig.document(QStringLiteral("own")));
     }
     rig.options()->lSetStartDate(false, QDateTime());
     rig.options()->lSetStopDate(false, QDateTime());
-    const ComputerZone zone(loadedIn);
+    const LocalZone zone(loadedIn);
     rig.load(rig.document(QStringLiteral("own.bpr")));
     QCOMPARE(startDate(rig), start.before);
     QCOMPARE(stopDate(rig), stop.before);

@@ -111,6 +111,7 @@ class TestMainWindowShell : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { makeMockHardware(); }
     void firstShowClearsThePanels();
     void firstShowMakesNoLists();
     void laterShowsDoNothing();

@@ -2,7 +2,7 @@
 
 #include "devicerig.h"
 
-#include "support/localzone.h"
+#include "support/environmentvariable.h"
 #include "support/loglines.h"
 #include "support/testclock.h"
 

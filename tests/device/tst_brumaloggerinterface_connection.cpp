@@ -4,7 +4,7 @@
 #include "devicerig.h"
 #include "storedfields.h"
 
-#include "support/localzone.h"
+#include "support/environmentvariable.h"
 #include "support/loglines.h"
 #include "support/testclock.h"
 

@@ -2,7 +2,7 @@
 
 #include "pickerdesk.h"
 
-#include "support/localzone.h"
+#include "support/environmentvariable.h"
 #include "support/testclock.h"
 
 #include <QTest>

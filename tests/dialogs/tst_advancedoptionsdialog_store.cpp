@@ -2,7 +2,7 @@
 
 #include "advanceddesk.h"
 
-#include "support/localzone.h"
+#include "support/environmentvariable.h"
 #include "support/minimised.h"
 #include "support/testclock.h"
 

@@ -1,5 +1,6 @@
 // The clocks of the Time Zone Editor as they run.
 
+#include "support/environmentvariable.h"
 #include "support/testclock.h"
 #include "zonedesk.h"
 
@@ -50,7 +51,7 @@ void TestTimeZoneDialogClocks::allTick()
 {
     QFETCH(const int, offset);
     QFETCH(const QString, suffix);
-    const ComputerZone computerZone("XXX-2");
+    const LocalZone computersZone("XXX-2");
     ZoneDesk desk;
     desk.setDevice(3600);
     desk.open();

@@ -1,5 +1,6 @@
 // The Time Zone Editor at its showing: the source of the time, and whose clock shows which zone.
 
+#include "support/environmentvariable.h"
 #include "support/minimised.h"
 #include "zonedesk.h"
 
@@ -65,7 +66,7 @@ void TestTimeZoneDialogShowing::computersZone()
 {
     QFETCH(const QByteArray, zone);
     QFETCH(const int, offset);
-    const ComputerZone computerZone(zone.constData());
+    const LocalZone computersZone(zone);
     ZoneDesk desk;
     desk.open();
     QCOMPARE(desk.text("labelRefLocal"),
@@ -76,7 +77,7 @@ void TestTimeZoneDialogShowing::computersZone()
 // A computer's clock that is wrong by three hours looks like one in another zone.
 void TestTimeZoneDialogShowing::computersZoneByTheReferenceTime()
 {
-    const ComputerZone computerZone("UTC0");
+    const LocalZone computersZone("UTC0");
     ZoneDesk desk;
     desk.tellTime(deskTime().addSecs(-3 * 3600));
     desk.open();
@@ -90,7 +91,7 @@ void TestTimeZoneDialogShowing::computersZoneByTheReferenceTime()
 
 void TestTimeZoneDialogShowing::referenceTimeCanBeSet()
 {
-    const ComputerZone computerZone("UTC0");
+    const LocalZone computersZone("UTC0");
     ZoneDesk desk;
     desk.dialog.setReferenceTime(deskTime().addSecs(3600));
     desk.open();

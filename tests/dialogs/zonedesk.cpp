@@ -7,25 +7,6 @@
 
 #include <QTest>
 
-#include <ctime>
-
-ComputerZone::ComputerZone(const char* zone)
-    : before(qgetenv("TZ"))
-    , known(qEnvironmentVariableIsSet("TZ"))
-{
-    qputenv("TZ", zone);
-    tzset();
-}
-
-ComputerZone::~ComputerZone()
-{
-    if (known)
-        qputenv("TZ", before);
-    else
-        qunsetenv("TZ");
-    tzset();
-}
-
 QDateTime deskTime()
 {
     return {QDate(2024, 9, 25), QTime(12, 0), Qt::UTC};

@@ -10,21 +10,6 @@
 #include <QString>
 #include <QWidget>
 
-/// Makes @p zone the computer's, and gives it back its own in the end. As TZ wants it: "XXX-2" is two hours
-/// east of Greenwich.
-class ComputerZone
-{
-public:
-    explicit ComputerZone(const char* zone);
-    ~ComputerZone();
-    ComputerZone(const ComputerZone&) = delete;
-    ComputerZone& operator=(const ComputerZone&) = delete;
-
-private:
-    QByteArray before;
-    bool known;
-};
-
 /// The moment at which the clock of a ZoneDesk stands: 12:00:00 on the 25th of September 2024, UTC.
 QDateTime deskTime();
 /// As the dialog shows it.

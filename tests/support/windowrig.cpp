@@ -25,6 +25,11 @@ constexpr const char* idleActions[] = {"actionSave", "actionLoad"};
 
 } // namespace
 
+void makeMockHardware()
+{
+    const UsbBench bench;
+}
+
 WindowRig::Noon::Noon()
 {
     TestClock::ignoreStalls();

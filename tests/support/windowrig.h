@@ -20,6 +20,10 @@ LoggerModel extendedLogger();
 /// Basic firmware, and the sampling time, the start delay and the range are on no list of the setup panel.
 LoggerModel customLogger();
 
+/// For a test whose first windows have no bench: the mock hardware names its folder in the environment, which
+/// the threads of those windows may be reading later.
+void makeMockHardware();
+
 /// A main window, a bench with simulated loggers, and a robot that answers the window's boxes. Widgets go by
 /// their object names, as an operator would find them by their place.
 class WindowRig

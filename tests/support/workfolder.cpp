@@ -5,6 +5,7 @@
 #include "presetfiles.h"
 
 #include "presets/presetstorage.h"
+#include "support/environmentvariable.h"
 
 #include <QDir>
 #include <QFile>
@@ -28,7 +29,7 @@ void writeConfiguration(const Settings& settings)
 void giveTheToolkitAMemory()
 {
     static const QTemporaryDir memory;
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(memory.path()));
+    static const EnvironmentVariable place("XDG_CONFIG_HOME", QFile::encodeName(memory.path()));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "time/timemanager.h"
 
+#include "support/environmentvariable.h"
 #include "support/testclock.h"
 
 #include <QRegularExpression>
@@ -50,7 +51,6 @@ class TestTimeManagerZones : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void init() { TestClock::set(reference.toMSecsSinceEpoch()); }
     void cleanup() { TestClock::reset(); }
 
@@ -69,13 +69,9 @@ private slots:
     void rowByName();
 
 private:
+    const LocalZone zone{"Asia/Kolkata"}; // nothing here may depend on it
     const QDateTime reference{QDate(2026, 3, 1), QTime(0, 10, 20), Qt::UTC};
 };
-
-void TestTimeManagerZones::initTestCase()
-{
-    qputenv("TZ", "Asia/Kolkata"); // nothing here may depend on it
-}
 
 void TestTimeManagerZones::tableHasItsRowsInOrder()
 {
