@@ -7,8 +7,8 @@
 
 namespace {
 
-/// The images are first thinned out to this many times the size: averaging all of their pixels would cost
-/// more than unpacking them.
+/// The images are first thinned out to this many times the size: averaging all of their pixels would cost as
+/// much as unpacking them.
 constexpr int oversampling = 6;
 
 } // namespace
@@ -16,6 +16,7 @@ constexpr int oversampling = 6;
 QIcon buttonIcon(const QString& path, QSize size)
 {
     // Naming the format spares the toolkit a look through its image plug-ins.
-    const QImage coarse = QImage(path, "PNG").scaled(size * oversampling, Qt::KeepAspectRatio);
+    const QImage image(path, "PNG");
+    const QImage coarse = image.scaled((size * oversampling).boundedTo(image.size()), Qt::KeepAspectRatio);
     return {QPixmap::fromImage(coarse.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation))};
 }

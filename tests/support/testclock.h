@@ -12,8 +12,8 @@ void shift(qint64 msecs);
 void set(qint64 msecs);
 /// From now on the clock advances by 2 ms at the most from one reading to the next. A reply wait reads it all
 /// the time, so a wait of 75 ms offers the simulated logger some 40 turns of work, however busy the machine
-/// is. Not for tests that look at the clock's own running. The clock starts at noon then, because a wait that
-/// crosses midnight ends at once.
+/// is. Not for tests that look at the clock's own running. The clock starts at noon then, because a wait
+/// whose deadline lies past midnight ends at once.
 void ignoreStalls();
 /// Back to the computer's clock.
 void reset();
