@@ -124,8 +124,6 @@ private:
     static constexpr int versionMajor = 1;
     static constexpr int versionMinor = 3;
     static constexpr int versionPatch = 3;
-    static constexpr int maxReportTextLength = 60;
-    static constexpr int maxBarcodeLength = 10;
     static constexpr int secondsPerMinute = 60;
     static constexpr int shipmentTypeSlot = 3; ///< holds a code of shipmentTypes
     static const TextSlot textSlots[4];        ///< in the order in which they are read and written
@@ -259,7 +257,9 @@ private:
     QSharedPointer<TimeZoneDialog> timeZoneDialog;
     QSharedPointer<PasswordDialog> passwordDialog;
     QSharedPointer<AdvancedOptionsDialog> advancedOptionsDialog; ///< also keeps what it shows
-    const QString fallbackDownloadUrl;                           ///< has no scheme
+    static constexpr int maxReportTextLength = 60;
+    static constexpr int maxBarcodeLength = 10;
+    const QString fallbackDownloadUrl; ///< has no scheme
     const QString dateTimeDisplayFormat = QStringLiteral("hh:mm:ss dd/MMM/yyyy");
     const QString dateTimeShortFormat = QStringLiteral("hh:mm:ss dd/MM/yyyy"); ///< in preset files
     bool keepConnecting = false; ///< false once a connect under way is over and must say nothing more

@@ -148,8 +148,8 @@ void MainWindow::plClearDeviceInfo()
     ui->spindTempMin->setValue(0);
     for (QComboBox* combo : {ui->comboTemp, ui->comboDelay, ui->comboSampling, ui->comboType})
         combo->setCurrentIndex(0);
-    for (const TextSlot& slot : textSlots)
-        (ui->*slot.edit)->clear();
+    for (QLineEdit* line : {ui->lineBarcode, ui->lineRecipient, ui->lineSender, ui->lineInfo})
+        line->clear();
     ui->lineInfo->setEnabled(true);
     plShowLastReset(false);
     ui->labelLowBattery->clear();

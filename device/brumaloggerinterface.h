@@ -60,7 +60,7 @@ public:
     /// "e": the internal ID; may be empty.
     bool lGetSerial(QString* serial);
     /// "m": anything but "1" is a Single-use device.
-    bool lGetMultiuse(bool* isMultiuse);
+    bool lGetMultiuse(bool* multiuse);
     /// "g": the figures on the device's clock, as a UTC date-time. A reply that is no number reads as 0.
     bool lGetDateTime(QDateTime* now);
     /// "Gt": degrees Celsius; neither pointer may be null.
@@ -124,9 +124,9 @@ public:
     // Policies and automatic dates.
 
     /// "Go".
-    bool lGetPolicies(int* word);
+    bool lGetPolicies(int* policies);
     /// "So".
-    bool lSetPolicies(quint16 word);
+    bool lSetPolicies(quint16 policies);
     /// "Ga": @p date, the figures on the device's clock as UTC, is touched only if @p enabled. No null.
     bool lGetStartDate(bool* enabled, QDateTime* date);
     /// "Gp": like lGetStartDate().

@@ -57,11 +57,12 @@ void BrumaloggerInterface::lWait(int msecs)
 bool BrumaloggerInterface::plExchange(const QString& command, int waitMs)
 {
     const QScopedValueRollback<bool> guard(busy, true);
+    const int wait = waitMs >= 0 ? waitMs : waitTime;
     reply.clear();
     replyReady = false;
     if (!plWriteRaw(command.toUtf8()))
         return false;
-    lWait(waitMs >= 0 ? waitMs : waitTime);
+    lWait(wait);
     return replyReady;
 }
 

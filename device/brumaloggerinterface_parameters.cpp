@@ -71,12 +71,12 @@ bool BrumaloggerInterface::lGetSerial(QString* serial)
     return true;
 }
 
-bool BrumaloggerInterface::lGetMultiuse(bool* isMultiuse)
+bool BrumaloggerInterface::lGetMultiuse(bool* multiuse)
 {
     if (!plExchange(QStringLiteral("m")))
         return false;
-    multiuse = reply == flagSet;
-    hand(isMultiuse, multiuse);
+    this->multiuse = reply == flagSet;
+    hand(multiuse, this->multiuse);
     return true;
 }
 

@@ -61,24 +61,24 @@ bool BrumaloggerInterface::lSetPassword(const QString& password)
 }
 
 // A reply that is no number leaves a word of 0 behind, not the old one.
-bool BrumaloggerInterface::lGetPolicies(int* word)
+bool BrumaloggerInterface::lGetPolicies(int* policies)
 {
     if (!plExchangeForReply(QStringLiteral("Go")))
         return false;
     bool converted = false;
-    policies = reply.toInt(&converted);
+    this->policies = reply.toInt(&converted);
     if (!converted)
         return false;
-    if (word)
-        *word = policies;
-    qDebug() << "Brumalogger current policies:" << policies;
+    if (policies)
+        *policies = this->policies;
+    qDebug() << "Brumalogger current policies:" << this->policies;
     return true;
 }
 
-bool BrumaloggerInterface::lSetPolicies(quint16 word)
+bool BrumaloggerInterface::lSetPolicies(quint16 policies)
 {
-    qDebug() << "Writing policies:" << word;
-    return plExchangeForOk(QString::asprintf("So%06d", word));
+    qDebug() << "Writing policies:" << policies;
+    return plExchangeForOk(QString::asprintf("So%06d", policies));
 }
 
 bool BrumaloggerInterface::lGetStartDate(bool* enabled, QDateTime* date)
